@@ -1,0 +1,30 @@
+// kestrel: runs the models without windows, for scripts, tests and benchmarks.
+#include <iostream>
+#include <vector>
+
+#include "cli/commun.h"
+
+int main(int argc, char** argv) {
+    using namespace kestrel::cli;
+    CLI::App app{"KESTREL - small-satellite simulator, command line.\n"
+                 "Runs the orbit, power and attitude models over a period and writes CSV."};
+    app.require_subcommand(1);
+    std::vector<Commande> commandes{enregistre_orbit(app), enregistre_project(app),
+                                    enregistre_power(app), enregistre_attitude(app)};
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::CallForAllHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::ParseError& e) {
+        std::string m = e.what();
+        if (m.empty()) m = "bad arguments";
+        std::cerr << "kestrel: " << m << " (kestrel --help)\n";
+        return SORTIE_ARGUMENTS;
+    }
+    for (auto& c : commandes) {
+        if (c.app->parsed()) return c.lance();
+    }
+    return SORTIE_ARGUMENTS;
+}

@@ -1,0 +1,54 @@
+#include "core/shell/erreur.h"
+
+#include <fmt/format.h>
+
+#include "core/shell/calendrier.h"
+#include "core/shell/messages.h"
+
+namespace kestrel {
+
+namespace {
+std::string texte_date(double j) {
+    Date d;
+    jour_vers_date(j, d);
+    return fmt::format("{} (jour {:.6f})", date_vers_texte(d), j);
+}
+}  // namespace
+
+std::string texte_erreur(const Erreur& e) {
+    switch (e.code) {
+        case CodeErreur::aucune:
+            return {};
+        case CodeErreur::ecriture_energie:
+            return msg::ecriture_energie;
+        case CodeErreur::lecture_energie:
+            return fmt::format("Erreur de lecture du fichier de configuration, ligne {} : « {} »",
+                               e.ligne, e.detail);
+        case CodeErreur::lecture_attitude:
+            return msg::lecture_attitude;
+        case CodeErreur::fichier_orbite:
+            return e.detail;
+        case CodeErreur::fichier_donnees:
+            return fmt::format("Fichier de données introuvable ou illisible : {}", e.detail);
+        case CodeErreur::ecriture_resultats:
+            return fmt::format("Impossible d'écrire le fichier de résultats : {}", e.detail);
+        case CodeErreur::non_convergence:
+            return fmt::format("Calcul interrompu : {} ne converge pas à la date {}", e.detail,
+                               texte_date(e.date));
+        case CodeErreur::sous_rayon_ombre:
+            return fmt::format(
+                "Calcul interrompu : le satellite passe sous le rayon d'ombre de 6428 km à la date {}",
+                texte_date(e.date));
+        case CodeErreur::valeur_non_finie:
+            return fmt::format("Calcul interrompu : valeur non finie de {} à la date {}", e.detail,
+                               texte_date(e.date));
+        case CodeErreur::faute_calcul:
+            return fmt::format("Calcul interrompu : erreur de calcul ({}) à la date {}", e.detail,
+                               texte_date(e.date));
+        case CodeErreur::date_cellules:
+            return msg::date_cellules;
+    }
+    return {};
+}
+
+}  // namespace kestrel
