@@ -1,0 +1,222 @@
+#include "core/attitude/att_run.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+
+#include "core/attitude/atmosphere.h"
+#include "core/attitude/attitude_init.h"
+#include "core/attitude/attitude_step.h"
+#include "core/etat.h"
+#include "core/orbit/orb_projection.h"
+#include "core/orbit/orb_trajecto.h"
+
+namespace kestrel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* EN_TETE[25] = {
+    "j_courant",           "omega(0) * (180 / pi)", "omega(1) * (180 / pi)", "omega(2) * (180 / pi)",
+    "omega(3) * (180 / pi)", "omega(4) * (180 / pi)", "omega(5) * (180 / pi)", "yd(0) * (180 / pi)",
+    "yd(2) * (180 / pi)",  "yd(1) * (180 / pi)",    "yd(3) * (30 / pi)",     "yd(4) * (30 / pi)",
+    "yd(5) * (30 / pi)",   "yi(0) * (180 / pi)",    "yi(1) * (180 / pi)",    "yi(2) * (180 / pi)",
+    "yi(3) * (30 / pi)",   "yi(4) * (30 / pi)",     "yi(5) * (30 / pi)",     "om(0) * (180 / pi)",
+    "om(1) * (180 / pi)",  "om(2) * (180 / pi)",    "ctot(0)",               "ctot(1)",
+    "ctot(2)"};
+
+// Owns the FILE and its large buffer; every number goes through to_chars into
+// a stack buffer, so writing a record allocates nothing.
+class Ecrivain {
+public:
+    explicit Ecrivain(const std::string& chemin) {
+        f_ = std::fopen(chemin.c_str(), "wb");
+        if (f_) std::setvbuf(f_, tampon_.get(), _IOFBF, TAILLE);
+    }
+    ~Ecrivain() { ferme(); }
+    Ecrivain(const Ecrivain&) = delete;
+    Ecrivain& operator=(const Ecrivain&) = delete;
+
+    bool ouvert() const { return f_ != nullptr; }
+    bool ferme() {
+        if (!f_) return ok_;
+        ok_ = (std::fclose(f_) == 0) && ok_;
+        f_ = nullptr;
+        return ok_;
+    }
+    bool ok() const { return ok_ && f_ && !std::ferror(f_); }
+
+    void texte(const char* s) {
+        std::fputc('"', f_);
+        std::fputs(s, f_);
+        std::fputc('"', f_);
+    }
+    void nombre(double x) {
+        char b[32];
+        auto r = std::to_chars(b, b + sizeof b, x);
+        std::fwrite(b, 1, static_cast<std::size_t>(r.ptr - b), f_);
+    }
+    void virgule() { std::fputc(',', f_); }
+    void fin_ligne() { std::fputs("\r\n", f_); }
+
+private:
+    static constexpr std::size_t TAILLE = 1 << 16;
+    std::unique_ptr<char[]> tampon_{new char[TAILLE]};
+    std::FILE* f_ = nullptr;
+    bool ok_ = true;
+};
+
+void ecrit_record(Ecrivain& w, const Etat& etat, double j, bool roues_actives) {
+    const AttitudeRecord& a = etat.att;
+    const double k180 = 180.0 / 3.14159265358979;
+    const double k30 = 30.0 / 3.14159265358979;
+    const double v[25] = {j,
+                          a.omega[0] * k180, a.omega[1] * k180, a.omega[2] * k180,
+                          a.omega[3] * k180, a.omega[4] * k180, a.omega[5] * k180,
+                          a.yd[0] * k180, a.yd[2] * k180, a.yd[1] * k180,
+                          a.yd[3] * k30, a.yd[4] * k30, a.yd[5] * k30,
+                          a.yi[0] * k180, a.yi[1] * k180, a.yi[2] * k180,
+                          a.yi[3] * k30, a.yi[4] * k30, a.yi[5] * k30,
+                          roues_actives ? a.om[0] * k180 : 0.0,
+                          roues_actives ? a.om[1] * k180 : 0.0,
+                          roues_actives ? a.om[2] * k180 : 0.0,
+                          a.ctot[0], a.ctot[1], a.ctot[2]};
+    for (int i = 0; i < 25; ++i) {
+        if (i) w.virgule();
+        w.nombre(v[i]);
+    }
+    w.fin_ligne();
+}
+
+// Name of the first non-finite field of the state, or nullptr.
+const char* champ_non_fini(const AttitudeRecord& a) {
+    auto fini = [](const auto& t) {
+        for (double x : t)
+            if (!std::isfinite(x)) return false;
+        return true;
+    };
+    if (!fini(a.omega)) return "omega";
+    if (!fini(a.yi)) return "yi";
+    if (!fini(a.yd)) return "yd";
+    if (!fini(a.z) || !fini(a.zd)) return "z";
+    if (!fini(a.ctot)) return "ctot";
+    return nullptr;
+}
+
+bool dossier_inscriptible(const fs::path& d) {
+    std::error_code ec;
+    fs::create_directories(d, ec);
+    if (!fs::is_directory(d, ec)) return false;
+    fs::path essai = d / ".kestrel_essai";
+    std::FILE* f = std::fopen(essai.c_str(), "wb");
+    if (!f) return false;
+    std::fclose(f);
+    fs::remove(essai, ec);
+    return true;
+}
+
+}  // namespace
+
+std::string chemin_resultats(const std::string& dossier_depart) {
+    fs::path d = fs::path(dossier_depart.empty() ? "." : dossier_depart) / "temp";
+    if (dossier_inscriptible(d)) return (d / "temp.tmp").string();
+    fs::path base;
+    if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
+        base = x;
+    else if (const char* h = std::getenv("HOME"); h && *h)
+        base = fs::path(h) / ".local" / "share";
+    else
+        return {};
+    d = base / "kestrel" / "temp";
+    if (dossier_inscriptible(d)) return (d / "temp.tmp").string();
+    return {};
+}
+
+BilanRun att_run(Etat& etat, const ParametresRun& p) {
+    BilanRun bilan;
+    AttitudeRecord& a = etat.att;
+
+    // the third test reads the run copy OM, not OM_init
+    bool roues_actives = std::fabs(a.OM_init[0]) >= 0.0001 || std::fabs(a.OM_init[1]) >= 0.0001 ||
+                         std::fabs(a.OM[2]) >= 0.0001;
+    attitude_init(etat);
+    etat.faute = {};
+
+    // the tables are read before the file is opened, so a missing one costs nothing
+    if (!tables_atmosphere(etat.session.dossier_depart, bilan.erreur)) return bilan;
+
+    bilan.fichier = p.fichier.empty() ? chemin_resultats(etat.session.dossier_depart) : p.fichier;
+    Ecrivain w(bilan.fichier);
+    if (bilan.fichier.empty() || !w.ouvert()) {
+        bilan.erreur.code = CodeErreur::ecriture_resultats;
+        bilan.erreur.detail = bilan.fichier.empty() ? std::string("temp/temp.tmp") : bilan.fichier;
+        return bilan;
+    }
+
+    const double debut = etat.session.j_debut;
+    const double fin = etat.session.j_fin;
+    const double pas = etat.session.pas_sim / 86400.0;  // days
+
+    w.texte("#BeginTime(JulianDays)"), w.virgule(), w.nombre(debut), w.fin_ligne();
+    w.texte("#EndTime(JulianDays)"), w.virgule(), w.nombre(fin), w.fin_ligne();
+    w.texte("#TimeStep(s)"), w.virgule(), w.nombre(pas * 86400), w.fin_ligne();
+    w.fin_ligne();
+    for (int i = 0; i < 25; ++i) {
+        if (i) w.virgule();
+        w.texte(EN_TETE[i]);
+    }
+    w.fin_ligne();
+
+    double j = debut;
+    ecrit_record(w, etat, j, roues_actives);
+    bilan.enregistrements = 1;
+
+    // 16-bit counter as the run has it; it wraps rather than trap past 32767
+    const double tous = std::nearbyint(p.pas_ecriture);
+    int16_t compteur = 0;
+    double dt = pas * 86400;
+    while (j <= fin) {
+        orb_position(etat, j);
+        const Vec3 pos = etat.orb.sat_pos;
+        sous_point(etat, j, pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
+        attitude_step(etat, dt, j);
+        ++bilan.pas;
+
+        if (etat.faute) {
+            bilan.erreur = etat.faute;
+            break;
+        }
+        if (const char* champ = champ_non_fini(a)) {
+            bilan.erreur.code = CodeErreur::valeur_non_finie;
+            bilan.erreur.detail = champ;
+            bilan.erreur.date = j;
+            break;
+        }
+
+        compteur = static_cast<int16_t>(compteur + 1);
+        if (compteur == tous) {
+            compteur = 0;
+            ecrit_record(w, etat, j, roues_actives);
+            ++bilan.enregistrements;
+        }
+        if (p.progression) {
+            float pc = (fin > debut) ? static_cast<float>(100 * (j - debut) / (fin - debut)) : 100.0f;
+            p.progression(pc);
+        }
+        j = j + pas;
+    }
+
+    if (!w.ok() || !w.ferme()) {
+        if (!bilan.erreur) {
+            bilan.erreur.code = CodeErreur::ecriture_resultats;
+            bilan.erreur.detail = bilan.fichier;
+        }
+    }
+    return bilan;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,43 @@
+// An attitude run over the session's period, written step by step to the
+// results file that the results windows read back.
+//
+// Results file (text, CR LF): four head lines, each a quoted label and its
+// value separated by a comma ("#BeginTime(JulianDays)",18000.5), the third
+// being the step in s and the fourth empty; then the 25 quoted column names;
+// then one record of 25 comma-separated numbers for the initial state and one
+// every Round(pas_ecriture) steps. Numbers are in their shortest form that
+// reads back to the same double. Angles and rates in deg and deg/s, Euler
+// rates and wheel speeds in rpm, torques in N.m.
+#pragma once
+#include <functional>
+#include <string>
+
+#include "core/shell/erreur.h"
+
+namespace kestrel {
+
+struct Etat;
+
+struct ParametresRun {
+    double pas_ecriture = 1.0;  // a record every Round(n) steps, 1..32767
+    std::string fichier;        // results path; empty: chemin_resultats()
+    std::function<void(double)> progression;  // percent of the period done, 0..100
+};
+
+struct BilanRun {
+    Erreur erreur;             // first failure; what was written stays on disk
+    std::string fichier;       // path actually written
+    long pas = 0;              // steps run
+    long enregistrements = 0;  // records written, the initial one included
+};
+
+// dossier_depart/temp/temp.tmp (temp/ created when missing); when that folder
+// cannot be written, the per-user data folder ($XDG_DATA_HOME or
+// ~/.local/share)/kestrel/temp/temp.tmp. Empty when neither can be made.
+std::string chemin_resultats(const std::string& dossier_depart);
+
+// From session.j_debut to session.j_fin by session.pas_sim seconds. Stops at
+// the first numerical fault or non-finite state, reporting its date.
+BilanRun att_run(Etat& etat, const ParametresRun& p);
+
+}  // namespace kestrel

@@ -1,0 +1,40 @@
+#include "core/attitude/couples.h"
+#include "core/etat.h"
+#include "core/orbit/orb_projection.h"
+#include "core/orbit/orb_trajecto.h"
+
+namespace kestrel {
+
+void total_torque(Etat& etat, double date) {
+    couple_gravite(etat);
+    couple_aero(etat, date);
+    couple_solaire(etat, date);
+    couple_magnetique(etat, date);
+    AttitudeRecord& a = etat.att;
+    a.ctot = {};
+    for (int i = 0; i < 3; ++i) {
+        a.ctot[i] = a.c_magnetique[i] + a.c_aero[i];
+        a.ctot[i] += a.c_solaire[i];
+        a.ctot[i] += a.c_gravite[i];
+    }
+}
+
+void total_torque_a_date(Etat& etat, double date) {
+    orb_position(etat, date);
+    Vec3 pos = etat.orb.sat_pos;
+    sous_point(etat, date, pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
+    AttitudeRecord& a = etat.att;
+    a.ctot = {};
+    couple_gravite(etat);
+    couple_aero(etat, date);
+    couple_solaire(etat, date);
+    couple_magnetique(etat, date);
+    for (int i = 0; i < 3; ++i) {
+        a.ctot[i] += a.c_aero[i];
+        a.ctot[i] += a.c_magnetique[i];
+        a.ctot[i] += a.c_solaire[i];
+        a.ctot[i] += a.c_gravite[i];
+    }
+}
+
+}  // namespace kestrel
