@@ -1,0 +1,17 @@
+// Ageing of the absorptivity of a coating since date_cell.
+#include <cmath>
+
+#include "core/power/power_record.h"
+#include "core/power/thermique.h"
+
+namespace kestrel {
+
+double alpha(const PowerRecord& p, float t, float a0, float alim, int32_t t99) {
+    const double q = 1.0 - static_cast<double>(a0) / alim;
+    const double taux = -std::log(q * 100) / t99;  // 1/h
+    // The date arrives in single precision: its rounding is part of the model.
+    const double heures = (static_cast<double>(t) - p.date_cell) * 24;
+    return alim * (1 - q * std::exp(taux * heures));
+}
+
+}  // namespace kestrel

@@ -1,0 +1,118 @@
+// Fluxes on one surface of the satellite from the directions of the step.
+#include "core/power/flux.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/etat.h"
+#include "core/orbit/matrices.h"
+
+namespace kestrel {
+
+namespace {
+
+constexpr double RAYON_TERRE = 6378.137;  // km
+
+// Angle between the normal (a, b) and the unit direction (z, sxy, az).
+// The clamp only absorbs rounding past +-1.
+double incidence(double a, double b, double z, double sxy, double az) {
+    const double c = std::sin(a) * z + sxy * std::cos(a) * std::cos(az - b);
+    return std::acos(std::clamp(c, -1.0, 1.0));
+}
+
+// Parabola A t² + B t + C that takes over from the cosine at d and ends at m (rad).
+struct Parabole {
+    double d, m, A, B, C;
+};
+
+Parabole parabole(const PowerRecord& p) {
+    Parabole q{};
+    q.d = p.inc_div * DEG_RAD;
+    q.m = p.inc_max * DEG_RAD;
+    q.A = (std::sin(q.d) * (q.m - q.d) - std::cos(q.d)) / ((q.m - q.d) * (q.m - q.d));
+    q.B = -std::sin(q.d) - 2 * q.A * q.d;
+    q.C = -q.A * q.m * q.m - q.B * q.m;
+    return q;
+}
+
+}  // namespace
+
+double incidence_sun(const Etat& etat, double a, double b) {
+    const PowerRecord& p = etat.pwr;
+    return incidence(a, b, p.sun_z, p.sun_sxy, p.sun_az);
+}
+
+double incidence_earth(const Etat& etat, double a, double b) {
+    const PowerRecord& p = etat.pwr;
+    return incidence(a, b, p.nad_z, p.nad_sxy, p.nad_az);
+}
+
+double cell_cosine(const Etat& etat, double theta) {
+    const Parabole q = parabole(etat.pwr);
+    double g;
+    if (theta <= q.d)
+        g = std::cos(theta);
+    else if (theta < q.m)
+        g = q.A * theta * theta + q.B * theta + q.C;
+    else
+        g = 0;
+    return g < 0 ? 0 : g;
+}
+
+double cell_cosine_derivee(const Etat& etat, double a, double b, double z, double sxy, double az) {
+    const Parabole q = parabole(etat.pwr);
+    const double theta = incidence(a, b, z, sxy, az);
+    // d(cos theta)/da
+    const double u = std::cos(a) * z - sxy * std::sin(a) * std::cos(az - b);
+    if (theta < q.d) return u;
+    if (theta < q.m) return -(2 * q.A * theta + q.B) * u / std::sin(theta);
+    return 0;
+}
+
+double cell_flux(const Etat& etat, double a, double b) {
+    const PowerRecord& p = etat.pwr;
+    const double g = cell_cosine(etat, incidence_sun(etat, a, b));
+    const double soleil = (p.eclipse != VRAI && g > 0) ? p.flux_sun * g : 0.0;
+    // The albedo is taken as a point source at nadir under the same law.
+    const double h = cell_cosine(etat, incidence_earth(etat, a, b));
+    const double albedo = h > 0 ? p.flux_alb * h : 0.0;
+    return soleil + albedo;
+}
+
+double solar_flux_direct(const Etat& etat, double a, double b) {
+    const PowerRecord& p = etat.pwr;
+    const double c = std::cos(incidence_sun(etat, a, b));
+    return (p.eclipse != VRAI && c > 0) ? p.flux_sun * c : 0.0;
+}
+
+double albedo_flux(Etat& etat, double a, double b) {
+    const double deg = incidence_earth(etat, a, b) * 180.0 / PI;
+    return earth_view_factor(etat, deg) * etat.pwr.flux_alb;
+}
+
+double solar_albedo_flux(Etat& etat, double a, double b) {
+    return solar_flux_direct(etat, a, b) + albedo_flux(etat, a, b);
+}
+
+double earth_ir_flux(Etat& etat, double a, double b) {
+    const double deg = incidence_earth(etat, a, b) * 180.0 / PI;
+    return earth_view_factor(etat, deg) * etat.pwr.flux_ir;
+}
+
+double earth_view_factor(Etat& etat, double deg) {
+    const double r = vec_norme(etat.orb.sat_pos);
+    const double s = RAYON_TERRE / r;
+    etat.pwr.earth_half = std::asin(s);
+    const double rho = etat.pwr.earth_half;
+    const double L = std::log(r - RAYON_TERRE);
+    const double f0 = (0.664 + 0.521 * rho - 0.203 * rho * rho) * std::sin(rho) * std::sin(rho);
+    double f;
+    if (deg < 90)
+        f = f0 * ((1 - 0.0031 * deg) - L * deg * (0.0668 / 90));
+    else
+        f = f0 * ((2.395 - 0.02345 * deg + 5.367e-05 * deg * deg) -
+                  L * (0.1091 - 2.833e-06 * deg * deg - 0.000215 * deg));
+    return f < 0.001 ? 0.0 : f;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,27 @@
+// Incidences and fluxes on a surface of normal (a, b) in the body frame:
+// a elevation from the xy plane (pi/2 is +z), b azimuth, radians. They read
+// the direction and flux fields that environment_update left. W/m².
+#pragma once
+
+namespace kestrel {
+
+struct Etat;
+
+double incidence_sun(const Etat& etat, double a, double b);    // rad, 0..pi
+double incidence_earth(const Etat& etat, double a, double b);  // rad, towards the Earth centre
+// Effective cosine of a cell: cosine up to inc_div, then a parabola joining it
+// in value and slope that reaches 0 at inc_max; never negative.
+double cell_cosine(const Etat& etat, double theta);
+// Derivative of the cell cosine with respect to the elevation a, at azimuth b,
+// for a direction (z, sxy, az) of the local frame.
+double cell_cosine_derivee(const Etat& etat, double a, double b, double z, double sxy, double az);
+double cell_flux(const Etat& etat, double a, double b);          // sun + albedo through the cell law
+double solar_flux_direct(const Etat& etat, double a, double b);  // plain cosine, 0 in eclipse
+double albedo_flux(Etat& etat, double a, double b);
+double solar_albedo_flux(Etat& etat, double a, double b);
+double earth_ir_flux(Etat& etat, double a, double b);
+// View factor of the Earth for a normal at `deg` degrees from nadir; 0 below
+// 0.001. Refreshes earth_half from the satellite's distance.
+double earth_view_factor(Etat& etat, double deg);
+
+}  // namespace kestrel

@@ -1,0 +1,111 @@
+// The start of a run and one step of the power system in its fixed order:
+// environment, (panel pointing), generator on the last temperatures,
+// management, then the thermal model with this step's heat.
+#include <cmath>
+#include <cstdio>
+
+#include "core/etat.h"
+#include "core/power/batterie.h"
+#include "core/power/cellules.h"
+#include "core/power/environnement.h"
+#include "core/power/gestion.h"
+#include "core/power/panneau.h"
+#include "core/power/power.h"
+#include "core/power/thermique.h"
+
+namespace kestrel {
+
+ConfigPower configuration(const PowerRecord& p) {
+    if (p.opt_panel_ext == VRAI) return ConfigPower::panneaux_externes;
+    if (p.opt_panel_ext == FAUX && p.opt_faces == 2) return ConfigPower::cylindre;
+    return ConfigPower::faces;
+}
+
+void power_state_init(Etat& etat) {
+    PowerRecord& p = etat.pwr;
+    p.bat_soc = p.gst_charge_init / 100.0;
+    p.bat_i = p.bat_c * 1e-6;
+    p.bat_v = bat_v_charge(etat, p.bat_i / p.bat_c, p.int_t_init, p.bat_soc);
+
+    constexpr double K = 273.15;
+    switch (configuration(p)) {
+        case ConfigPower::panneaux_externes:
+            p.pan_moving = FAUX;
+            p.pan_wait = -1;
+            p.pan_angle = p.pan_angle_init * DEG_RAD;
+            p.node_t[0] = p.ext_t_init[0] + K;  // node 1 has no temperature
+            for (int i = 2; i <= 8; ++i) p.node_t[i] = p.ext_t_init[i] + K;
+            break;
+        case ConfigPower::cylindre:
+            for (int i = 0; i < 36; ++i) p.node_t[i] = p.fac_t_init[0] + K;
+            p.node_t[36] = p.fac_t_init[1] + K;
+            p.node_t[37] = p.fac_t_init[2] + K;
+            p.node_t[38] = p.int_t_init + K;
+            break;
+        case ConfigPower::faces:
+            for (int i = 0; i < p.nb_faces && i < 8; ++i) p.node_t[i] = p.fac_t_init[0] + K;
+            p.node_t[8] = p.fac_t_init[1] + K;
+            p.node_t[9] = p.fac_t_init[2] + K;
+            p.node_t[10] = p.int_t_init + K;
+            break;
+    }
+}
+
+void power_step(Etat& etat) {
+    environment_update(etat, etat.session.j_courant);
+    switch (configuration(etat.pwr)) {
+        case ConfigPower::panneaux_externes:
+            panel_target_update(etat);
+            panel_drive_update(etat, etat.session.pas_sim);
+            generator_ext_panels(etat);
+            power_management(etat);
+            thermal_ext_panels(etat);
+            break;
+        case ConfigPower::cylindre:
+            generator_cylinder(etat);
+            power_management(etat);
+            thermal_cylinder(etat);
+            break;
+        case ConfigPower::faces:
+            generator_faces(etat);
+            power_management(etat);
+            thermal_faces(etat);
+            break;
+    }
+}
+
+bool power_etat_fini(Etat& etat, double date) {
+    const PowerRecord& p = etat.pwr;
+    char nom[32];
+    auto faute = [&](const char* champ, int i) {
+        if (i >= 0)
+            std::snprintf(nom, sizeof nom, "%s[%d]", champ, i);
+        else
+            std::snprintf(nom, sizeof nom, "%s", champ);
+        signale_faute(etat, CodeErreur::valeur_non_finie, date, nom);
+        return false;
+    };
+    for (int i = 0; i < 39; ++i)
+        if (!std::isfinite(p.node_t[i])) return faute("node_t", i);
+    for (int i = 0; i < 36; ++i) {
+        if (!std::isfinite(p.pan_power[i])) return faute("pan_power", i);
+        if (!std::isfinite(p.cell_eff[i])) return faute("cell_eff", i);
+    }
+    const struct {
+        const char* nom;
+        double v;
+    } champs[] = {{"gen_power", p.gen_power},   {"t_bat", p.t_bat},         {"pan_angle", p.pan_angle},
+                  {"pan_target", p.pan_target}, {"sun_z", p.sun_z},         {"sun_sxy", p.sun_sxy},
+                  {"sun_az", p.sun_az},         {"nad_z", p.nad_z},         {"nad_sxy", p.nad_sxy},
+                  {"nad_az", p.nad_az},         {"flux_sun", p.flux_sun},   {"flux_alb", p.flux_alb},
+                  {"flux_ir", p.flux_ir},       {"earth_half", p.earth_half}, {"sun_nadir_cos", p.sun_nadir_cos},
+                  {"bat_soc", p.bat_soc},       {"bat_v", p.bat_v},         {"bat_i", p.bat_i},
+                  {"bat_p", p.bat_p},           {"p_payload", p.p_payload}, {"p_excess", p.p_excess},
+                  {"p_loss_ch", p.p_loss_ch},   {"p_loss_de", p.p_loss_de}, {"p_loss_gs", p.p_loss_gs},
+                  {"p_loss_pl", p.p_loss_pl},   {"p_heat", p.p_heat}};
+    for (const auto& c : champs)
+        if (!std::isfinite(c.v)) return faute(c.nom, -1);
+    return true;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,56 @@
+// Nine nodes of the external-panel satellite: one node for both sides of a
+// panel, six body faces, the internal node; node 1 carries only the rear's
+// optical data. One-second explicit Euler passes.
+#include <array>
+
+#include "core/etat.h"
+#include "core/power/flux.h"
+#include "core/power/thermique.h"
+
+namespace kestrel {
+
+void thermal_ext_panels(Etat& etat) {
+    PowerRecord& p = etat.pwr;
+    const float t = static_cast<float>(etat.session.j_courant);
+
+    // Normals (elevation, azimuth) of the front, rear and the six faces.
+    const double a[8] = {p.pan_angle, p.pan_angle + PI, 0, 0, 0, 0, DEMI_PI, -DEMI_PI};
+    const double b[8] = {PI, PI, 0 * PI / 2, 1 * PI / 2, 2 * PI / 2, 3 * PI / 2, 0, 0};
+
+    // Absorbed-flux constant and radiation factor of each surface for the step.
+    std::array<double, 8> absorbe{}, emis{};
+    for (int i = 0; i < 8; ++i) {
+        const double al = alpha(p, t, p.ext_alpha0[i], p.ext_alpha_lim[i], p.ext_t99[i]);
+        const double sa = solar_albedo_flux(etat, a[i], b[i]);
+        const double ir = earth_ir_flux(etat, a[i], b[i]);
+        absorbe[i] = al * sa + p.ext_eps[i] * ir;
+        emis[i] = p.ext_eps[i] * SIGMA;
+    }
+    const double perte_elec = p.pan_power[0] / p.ext_area;  // W/m²
+    const double cap0 = static_cast<double>(p.ext_mass[0]) * p.ext_cp[0];
+    std::array<double, 9> cap{};
+    for (int i = 2; i < 9; ++i) cap[i] = static_cast<double>(p.ext_cp[i]) * p.ext_mass[i];
+
+    auto& T = p.node_t;
+    for (int pas = 0; pas < etat.session.pas_sim; ++pas) {
+        std::array<double, 9> T4{}, d{};
+        for (int i = 0; i < 9; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
+
+        d[0] = (absorbe[0] - emis[0] * T4[0]) + (absorbe[1] - emis[1] * T4[0]) - perte_elec;
+        d[0] /= cap0;
+        double interne = 0;
+        for (int i = 2; i < 8; ++i) {
+            const int k = i - 2;
+            const double echange = (T[8] - T[i]) * p.ext_cond[k] + SIGMA * p.ext_rad[k] * (T4[8] - T4[i]);
+            d[i] = ((absorbe[i] - emis[i] * T4[i]) + echange) / cap[i];
+            interne -= echange;
+        }
+        d[8] = (p.body_face_area * interne + p.p_heat) / cap[8];
+
+        T[0] += d[0];
+        for (int i = 2; i < 9; ++i) T[i] += d[i];
+    }
+    p.t_bat = T[8] - 273.15;
+}
+
+}  // namespace kestrel
