@@ -8,6 +8,7 @@
 namespace kestrel {
 
 struct Etat;
+struct PowerRecord;
 
 // .pwr, power project (279 text lines, CR LF, Windows-1252). The load reads
 // into a copy and replaces etat's power record, environment and period only
@@ -15,6 +16,12 @@ struct Etat;
 Erreur charge_energie(Etat& etat, const std::string& chemin);
 // Deletes the previous file first, then writes; a failure leaves what was written.
 Erreur sauve_energie(const Etat& etat, const std::string& chemin);
+// The 279 lines that sauve_energie writes, in UTF-8 with CR LF line ends.
+std::string texte_energie(const Etat& etat);
+// Lateral faces from opt_faces: 4 (value 0) or 6 (value 1) normals 90 or 60
+// degrees apart, elevation 0, in rad; any other value is a cylinder
+// (nb_faces 0) and leaves the angle tables as they were.
+void tableau_faces(PowerRecord& p);
 
 // .att, attitude project (one 820-byte little-endian record). A short file
 // reads as zeros past its end; the record is copied only after a good read.

@@ -22,10 +22,23 @@ std::string texte_erreur(const Erreur& e) {
         case CodeErreur::ecriture_energie:
             return msg::ecriture_energie;
         case CodeErreur::lecture_energie:
-            return fmt::format("Erreur de lecture du fichier de configuration, ligne {} : « {} »",
+            // ligne 0: the file could not be opened; an empty text: the file ended early.
+            if (e.ligne == 0)
+                return fmt::format("Erreur de lecture du fichier de configuration « {} » : "
+                                   "fichier introuvable ou illisible",
+                                   e.detail);
+            if (e.detail.empty())
+                return fmt::format("Erreur de lecture du fichier de configuration, ligne {} : "
+                                   "fin du fichier atteinte",
+                                   e.ligne);
+            return fmt::format("Erreur de lecture du fichier de configuration, ligne {} : "
+                               "valeur illisible « {} »",
                                e.ligne, e.detail);
         case CodeErreur::lecture_attitude:
             return msg::lecture_attitude;
+        case CodeErreur::ecriture_attitude:
+            return fmt::format("Erreur d'écriture du fichier de configuration du contrôle d'attitude : {}",
+                               e.detail);
         case CodeErreur::fichier_orbite:
             return e.detail;
         case CodeErreur::fichier_donnees:

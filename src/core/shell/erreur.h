@@ -12,6 +12,7 @@ enum class CodeErreur {
     ecriture_energie,       // .pwr could not be written
     lecture_energie,        // .pwr read or conversion failure (ligne, detail = text)
     lecture_attitude,       // .att could not be opened or read
+    ecriture_attitude,      // .att could not be written (detail = file and system description)
     fichier_orbite,         // .orb open/save failure (detail = system description)
     fichier_donnees,        // a data table (flux_solaire.txt, densite.txt) is missing or bad
     ecriture_resultats,     // results file could not be written

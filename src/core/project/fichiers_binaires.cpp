@@ -1,0 +1,134 @@
+// The two binary records: .att (820 bytes) and .orb (114 bytes in 128).
+// Both are read into a scratch copy and handed over only after a good read;
+// a short file reads as zeros past its end.
+#include <array>
+#include <bit>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <vector>
+
+#include "core/attitude/bilan_masses.h"
+#include "core/etat.h"
+#include "core/project/enregistrements.h"
+#include "core/project/projet.h"
+
+namespace kestrel {
+
+namespace {
+
+struct Encodeur {
+    std::vector<unsigned char>& o;
+    void reel(const double& x, std::size_t off, const std::string&) {
+        const auto b = std::bit_cast<uint64_t>(x);
+        for (int i = 0; i < 8; ++i) o[off + i] = static_cast<unsigned char>(b >> (8 * i));
+    }
+    void entier(const int16_t& x, std::size_t off, const std::string&) {
+        const auto b = static_cast<uint16_t>(x);
+        o[off] = static_cast<unsigned char>(b);
+        o[off + 1] = static_cast<unsigned char>(b >> 8);
+    }
+    void texte(const std::array<char, 24>& x, std::size_t off, const std::string&) {
+        std::memcpy(&o[off], x.data(), x.size());
+    }
+};
+
+struct Decodeur {
+    const std::vector<unsigned char>& o;
+    void reel(double& x, std::size_t off, const std::string&) {
+        uint64_t b = 0;
+        for (int i = 0; i < 8; ++i) b |= static_cast<uint64_t>(o[off + i]) << (8 * i);
+        x = std::bit_cast<double>(b);
+    }
+    void entier(int16_t& x, std::size_t off, const std::string&) {
+        x = static_cast<int16_t>(static_cast<uint16_t>(o[off] | (o[off + 1] << 8)));
+    }
+    void texte(std::array<char, 24>& x, std::size_t off, const std::string&) {
+        std::memcpy(x.data(), &o[off], x.size());
+    }
+};
+
+// Reads up to n bytes; the rest stays zero. False when the file cannot be read.
+bool lit_debut(const std::string& chemin, std::vector<unsigned char>& o, std::size_t n) {
+    o.assign(n, 0);
+    if (!fichier_existe(chemin)) return false;
+    std::ifstream f(chemin, std::ios::binary);
+    if (!f) return false;
+    f.read(reinterpret_cast<char*>(o.data()), static_cast<std::streamsize>(n));
+    return !f.bad();
+}
+
+// Replaces the first bytes of the file (creating it when absent); a longer
+// file keeps its tail, as a record written in place would.
+bool ecrit_debut(const std::string& chemin, const std::vector<unsigned char>& o) {
+    std::fstream f;
+    if (fichier_existe(chemin)) f.open(chemin, std::ios::binary | std::ios::in | std::ios::out);
+    if (!f.is_open()) f.open(chemin, std::ios::binary | std::ios::out | std::ios::trunc);
+    if (!f) return false;
+    f.seekp(0);
+    f.write(reinterpret_cast<const char*>(o.data()), static_cast<std::streamsize>(o.size()));
+    f.close();
+    return !f.fail();
+}
+
+Erreur erreur_systeme(CodeErreur code, const std::string& chemin) {
+    Erreur e;
+    e.code = code;
+    const int n = errno;
+    e.detail = chemin + " : " + (n ? std::strerror(n) : "erreur d'entrée/sortie");
+    return e;
+}
+
+}  // namespace
+
+Erreur sauve_attitude(const Etat& etat, const std::string& chemin) {
+    std::vector<unsigned char> o(TAILLE_ATTITUDE, 0);
+    Encodeur enc{o};
+    champs_attitude(enc, etat.att);
+    errno = 0;
+    if (!ecrit_debut(chemin, o)) return erreur_systeme(CodeErreur::ecriture_attitude, chemin);
+    return {};
+}
+
+Erreur charge_attitude(Etat& etat, const std::string& chemin) {
+    std::vector<unsigned char> o;
+    if (!lit_debut(chemin, o, TAILLE_ATTITUDE)) {
+        Erreur e;
+        e.code = CodeErreur::lecture_attitude;
+        e.detail = chemin;
+        return e;
+    }
+    AttitudeRecord a = etat.att;
+    Decodeur dec{o};
+    champs_attitude(dec, a);
+    etat.att = a;
+    // Only the face table is rebuilt: Mt, I, cm_total and the run states
+    // stay as the file held them.
+    faces_recalcul(etat.att);
+    return {};
+}
+
+Erreur sauve_orbite(const Etat& etat, const std::string& chemin) {
+    std::vector<unsigned char> o(CASE_ORBITE, 0);
+    Encodeur enc{o};
+    champs_orbite(enc, etat.orbite);
+    errno = 0;
+    if (!ecrit_debut(chemin, o)) return erreur_systeme(CodeErreur::fichier_orbite, chemin);
+    return {};
+}
+
+Erreur charge_orbite(Etat& etat, const std::string& chemin) {
+    std::vector<unsigned char> o;
+    errno = 0;
+    if (!lit_debut(chemin, o, TAILLE_ORBITE)) {
+        if (errno == 0) errno = ENOENT;
+        return erreur_systeme(CodeErreur::fichier_orbite, chemin);
+    }
+    Orbite r = etat.orbite;
+    Decodeur dec{o};
+    champs_orbite(dec, r);
+    etat.orbite = r;
+    return {};
+}
+
+}  // namespace kestrel
