@@ -6,6 +6,12 @@
 namespace kestrel {
 
 struct Etat;
+struct Orbite;
+
+// Node om (deg, equinox of the epoch) referred to the 1950 equinox: a
+// precession of 12.81161661111 deg per 365250 days from 1950 to the epoch of
+// o, plus 360 once if negative. Depends on the epoch only, not on the date.
+double ascension_1950(const Orbite& o, double om);
 
 // Fills every field of etat.orb but the ground point. Never allocates. A
 // position inside the 6428 km shadow radius or a Newton loop past its safety

@@ -1,0 +1,140 @@
+// Keplerian propagation from the mean elements of etat.orbite: only the mean
+// anomaly advances, linearly from the epoch, so each call depends on the date
+// alone. Inertial frame of 1950, km, km/s; the shadow is a cone test against
+// an Earth of 6428 km with a point Sun.
+#include "core/orbit/orb_trajecto.h"
+
+#include <cmath>
+
+#include "core/etat.h"
+#include "core/orbit/math.h"
+#include "core/orbit/orb_projection.h"
+
+namespace kestrel {
+
+namespace {
+
+constexpr double MU_TERRE = 398601.3;     // km^3/s^2
+constexpr double SECONDES_JOUR = 86400.0;
+constexpr double RAYON_OMBRE = 6428.0;    // km, larger than the Earth on purpose
+constexpr int PASSES_MAX = 100000;        // safety cap of the Newton loop
+
+// Kepler's equation by Newton from E = m, then position and velocity. Returns
+// false when the loop passed its cap (the vectors then come from the last pass).
+bool cartesien(Etat& etat, double j, double a, double e, double i, double w, double om, double& m) {
+    m = m - 2.0 * std::floor(m / DEUX_PI) * PI;
+
+    double E = m;
+    bool converge = false;
+    for (int passe = 0; passe < PASSES_MAX; ++passe) {
+        const double E2 = E - (E - e * std::sin(E) - m) / (1.0 - e * std::cos(E));
+        const bool fini = std::fabs(E2 - E) < 1e-12;
+        E = E2;
+        if (fini) {
+            converge = true;
+            break;
+        }
+    }
+    if (!converge) signale_faute(etat, CodeErreur::non_convergence, j, "équation de Kepler");
+    m = E;
+
+    const double cw = std::cos(w), sw = std::sin(w), co = std::cos(om), so = std::sin(om);
+    const double ci = std::cos(i), si = std::sin(i);
+    const double Px = cw * co - so * sw * ci;
+    const double Py = cw * so + co * sw * ci;
+    const double Pz = si * sw;
+    const double Qx = -sw * co - so * cw * ci;
+    const double Qy = -sw * so + co * cw * ci;
+    const double Qz = cw * si;
+
+    const double s = std::sqrt(1.0 - e * e);
+    const double cE = std::cos(E), sE = std::sin(E);
+    Vec3& p = etat.orb.sat_pos;
+    p[0] = a * ((cE - e) * Px + s * sE * Qx);
+    p[1] = a * ((cE - e) * Py + s * sE * Qy);
+    p[2] = a * ((cE - e) * Pz + s * sE * Qz);
+
+    // The rate is taken again from a alone, in this form.
+    const double n = std::sqrt(MU_TERRE / (a * a * a));
+    const double Ep = n / (1.0 - e * cE);
+    Vec3& v = etat.orb.sat_vit;
+    v[0] = a * Ep * (s * cE * Qx - sE * Px);
+    v[1] = a * Ep * (s * cE * Qy - sE * Py);
+    v[2] = a * Ep * (s * cE * Qz - sE * Pz);
+    return converge;
+}
+
+}  // namespace
+
+double ascension_1950(const Orbite& o, double om) {
+    const double d = o.orb_jour - 1.0;
+    double r = om - (((o.orb_an - 1950) * 365.25 + d) * 12.81161661111) / 365250.0;
+    if (r < 0.0) r += 360.0;
+    return r;
+}
+
+void orb_cartesien(Etat& etat, double a, double e, double i, double w, double om, double& m) {
+    cartesien(etat, etat.session.j_courant, a, e, i, w, om, m);
+}
+
+void orb_kepler(Etat& etat, double j, double a, double e, double i, double w, double om, double m0,
+                double d, int an) {
+    i *= DEG_RAD;
+    w *= DEG_RAD;
+    om *= DEG_RAD;
+    m0 *= DEG_RAD;
+
+    // Epoch as a day count, by four-year blocks from 1900 (every fourth year
+    // a leap year, no century rule). Integer division and remainder truncate.
+    const int k = an - 1900;
+    const double q = (k / 4) * 4;
+    double t0;
+    if (k % 4 == 0)
+        t0 = q * 365.25 + d - 18263.0;
+    else
+        t0 = q * 365.25 + (k % 4) * 365 + 1.0 + d - 18263.0;
+
+    const double n = std::sqrt(MU_TERRE / a) / a;  // rad/s
+    double m = n * (j - t0) * SECONDES_JOUR + m0;
+    m = modulo(m, DEUX_PI);
+    etat.orb.anomalie_moy = m;
+    cartesien(etat, j, a, e, i, w, om, m);
+}
+
+void orb_position(Etat& etat, double j) {
+    soleil_position(etat, j);
+
+    const Orbite& o = etat.orbite;
+    // Copies only: a circular equatorial orbit still gets a defined node and perigee.
+    const double i = o.orb_inclinaison == 0.0 ? 5e-06 : o.orb_inclinaison;
+    const double e = o.orb_excentricite == 0.0 ? 1e-07 : o.orb_excentricite;
+    const double d = o.orb_jour - 1.0;
+    const double om = ascension_1950(o, o.orb_ascension);
+    orb_kepler(etat, j, o.orb_demi, e, i, o.orb_argument, om, o.orb_anomalie, d, o.orb_an);
+
+    SortiesOrbite& s = etat.orb;
+    const Vec3& p = s.sat_pos;
+    const double r2 = p[0] * p[0] + p[1] * p[1] + p[2] * p[2];
+    const double r = std::sqrt(r2);
+    s.vec_nadir = Vec3{-p[0] / r, -p[1] / r, -p[2] / r};
+
+    const Vec3 vs{s.soleil_pos[0] - p[0], s.soleil_pos[1] - p[1], s.soleil_pos[2] - p[2]};
+    const double ns = std::sqrt(vs[0] * vs[0] + vs[1] * vs[1] + vs[2] * vs[2]);
+    s.vec_soleil = Vec3{vs[0] / ns, vs[1] / ns, vs[2] / ns};
+
+    // Cosine of the angle at the satellite between the Earth's centre and the Sun,
+    // against the cosine of the Earth's apparent half-angle.
+    const double c = s.vec_nadir[0] * s.vec_soleil[0] + s.vec_nadir[1] * s.vec_soleil[1] +
+                     s.vec_nadir[2] * s.vec_soleil[2];
+    const double sous = r2 - RAYON_OMBRE * RAYON_OMBRE;
+    if (!(sous >= 0.0)) {
+        // Inside the shadow radius (or no position at all): no cone to test.
+        s.eclipse = FAUX;
+        signale_faute(etat, CodeErreur::sous_rayon_ombre, j, "");
+        return;
+    }
+    const double k = std::sqrt(sous) / r;
+    s.eclipse = k < c ? VRAI : FAUX;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,263 @@
+// Vectors, matrices in their memory order, the frame turns (with the yaw used
+// twice on the way into the body frame), Euler helpers and the linear solver.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+#include "core/etat.h"
+#include "core/orbit/matrices.h"
+#include "core/shell/types.h"
+
+using namespace kestrel;
+
+namespace {
+constexpr double PRECIS = 1e-12;
+
+void attend_vec(const Vec3& v, double x, double y, double z, double tol = PRECIS) {
+    EXPECT_NEAR(v[0], x, tol);
+    EXPECT_NEAR(v[1], y, tol);
+    EXPECT_NEAR(v[2], z, tol);
+}
+
+// Epoch 1950-01-01: the 1950 node correction is 0, so with i = om = 0 the
+// plane frame is the inertial frame. Satellite on +x: u = 0, and form A is
+// (along track, normal, radial) = (y, z, x).
+Etat etat_simple() {
+    Etat e;
+    e.orbite.orb_an = 1950;
+    e.orbite.orb_jour = 1.0;
+    e.orb.sat_pos = Vec3{7000.0, 0.0, 0.0};
+    return e;
+}
+}  // namespace
+
+TEST(Matrices, ProduitDansLOrdreMemoire) {
+    // m[i + 3 j]: A = [[1,4,7],[2,5,8],[3,6,9]]; A^2 by hand:
+    // row 0: 1+8+21, 4+20+42, 7+32+63 = 30, 66, 102
+    // row 1: 2+10+24, 8+25+48, 14+40+72 = 36, 81, 126
+    // row 2: 3+12+27, 12+30+54, 21+48+81 = 42, 96, 150
+    Mat3 A;
+    for (int k = 0; k < 9; ++k) A.m[k] = k + 1;
+    Mat3 C;
+    C.m.fill(99.0);  // cleared before summing
+    mat_produit(A, A, C);
+    const std::array<double, 9> attendu{30, 36, 42, 66, 81, 96, 102, 126, 150};
+    EXPECT_EQ(C.m, attendu);
+    mat_produit(A, A, A);  // result over an input
+    EXPECT_EQ(A.m, attendu);
+
+    // M v with the same A = [[1,4,7],[2,5,8],[3,6,9]], v = (1, 0, -1): (-6, -6, -6)
+    Mat3 B;
+    for (int k = 0; k < 9; ++k) B.m[k] = k + 1;
+    Vec3 r;
+    mat_vecteur(B, Vec3{1, 0, -1}, r);
+    attend_vec(r, -6, -6, -6, 0.0);
+}
+
+TEST(Matrices, Vecteurs) {
+    const Vec3 a{1, 2, 3}, b{4, 5, 6};
+    EXPECT_EQ(vec_scalaire(a, b), 32.0);
+    Vec3 c;
+    vec_vectoriel(a, b, c);
+    attend_vec(c, -3, 6, -3, 0.0);  // (2*6-3*5, 3*4-1*6, 1*5-2*4)
+    EXPECT_EQ(vec_norme(Vec3{2, 3, 6}), 7.0);
+    vec_echelle(2.0, a, c);
+    attend_vec(c, 2, 4, 6, 0.0);
+    vec_somme(a, b, c);
+    attend_vec(c, 5, 7, 9, 0.0);
+}
+
+TEST(Reperes, CorpsParLacetPuisRetour) {
+    Vec3 r;
+    // yaw 90: X = y, Y = -x, Z = z
+    vers_corps(90.0, 0.0, 0.0, Vec3{1, 2, 3}, r);
+    attend_vec(r, 2, -1, 3);
+    // pitch 90: X = -z, Z = x
+    vers_corps(0.0, 90.0, 0.0, Vec3{1, 2, 3}, r);
+    attend_vec(r, -3, 2, 1);
+    // roll 90: Y = z, Z = -y
+    vers_corps(0.0, 0.0, 90.0, Vec3{1, 2, 3}, r);
+    attend_vec(r, 1, 3, -2);
+
+    Vec3 corps, retour;
+    vers_corps(30.0, -20.0, 75.0, Vec3{0.3, -1.2, 2.5}, corps);
+    depuis_corps(30.0, -20.0, 75.0, corps, retour);
+    attend_vec(retour, 0.3, -1.2, 2.5);
+}
+
+TEST(Reperes, PlanAvecCorrection1950) {
+    // Epoch 2000-01-01: correction = 50 * 365.25 * 12.81161661111 / 365250
+    // = 0.05 * 12.81161661111 = 0.6405808305555 deg. A node given as 90 + that
+    // is 90 in 1950: with i = 0, (1, 0, 0) -> (cos 90, -sin 90, 0) = (0, -1, 0).
+    Orbite o;
+    o.orb_an = 2000;
+    o.orb_jour = 1.0;
+    Vec3 r;
+    vers_plan(o, 90.6405808305555, 0.0, Vec3{1, 0, 0}, r);
+    attend_vec(r, 0.0, -1.0, 0.0, 1e-12);
+    // A node of 0 goes negative and gets +360: the plane turns by -0.64 deg
+    vers_plan(o, 0.0, 0.0, Vec3{1, 0, 0}, r);
+    attend_vec(r, std::cos(0.6405808305555 * DEG_RAD), std::sin(0.6405808305555 * DEG_RAD), 0.0, 1e-12);
+
+    Vec3 retour;
+    vers_plan(o, 40.0, 63.0, Vec3{1, -2, 5}, r);
+    depuis_plan(o, 40.0, 63.0, r, retour);
+    attend_vec(retour, 1, -2, 5);
+}
+
+TEST(Reperes, LocalOrbitalFormeA) {
+    // satellite on +y of the plane frame: u = pi/2, along track is -x
+    Vec3 r;
+    plan_vers_local(Vec3{0, 7000, 0}, Vec3{1, 2, 3}, r);
+    attend_vec(r, -1, 3, 2);
+    Vec3 retour;
+    local_vers_plan(Vec3{0, 7000, 0}, r, retour);
+    attend_vec(retour, 1, 2, 3);
+}
+
+TEST(Reperes, InertielVersCorpsIgnoreLeRoulis) {
+    Etat e = etat_simple();
+    Vec3 r;
+    inertiel_vers_corps(e, Vec3{1, 2, 3}, r);
+    attend_vec(r, 2, 3, 1);  // (y, z, x) with no pointing
+
+    e.pointage.phi = 90.0;  // roll: no effect in this direction
+    inertiel_vers_corps(e, Vec3{1, 2, 3}, r);
+    attend_vec(r, 2, 3, 1);
+
+    // yaw 90 is also applied as roll 90: local (2, 3, 1) -> yaw -> (3, -2, 1)
+    // -> roll -> (3, 1, 2)
+    e.pointage.phi = 0.0;
+    e.pointage.psi = 90.0;
+    inertiel_vers_corps(e, Vec3{1, 2, 3}, r);
+    attend_vec(r, 3, 1, 2);
+}
+
+TEST(Reperes, CorpsVersInertielPrendLesTroisAngles) {
+    Etat e = etat_simple();
+    Vec3 r;
+    corps_vers_inertiel(e, Vec3{2, 3, 1}, r);
+    attend_vec(r, 1, 2, 3);
+    // roll 90 undone: body (2, 3, 1) -> local (2, -1, 3) -> inertial (3, 2, -1)
+    e.pointage.phi = 90.0;
+    corps_vers_inertiel(e, Vec3{2, 3, 1}, r);
+    attend_vec(r, 3, 2, -1);
+}
+
+TEST(Reperes, OrbitalSansCorrection) {
+    // i = 90, om = 0: rows (1,0,0), (0,0,1), (0,-1,0), even with a 2001 epoch
+    Etat e;
+    e.orbite.orb_inclinaison = 90.0;
+    Vec3 v{1, 2, 3};
+    vers_orbital_i(e.orbite, v);
+    attend_vec(v, 1, 3, -2);
+
+    // form B with u = 90 deg (perigee argument 90, anomaly 0, e = 0):
+    // rows (0,0,1), (0,1,0), (-1,0,0)
+    e.orbite.orb_argument = 90.0;
+    e.orb.anomalie_moy = 0.0;
+    v = Vec3{1, 2, 3};
+    vers_orbital_u(e, v);
+    attend_vec(v, 3, 2, -1);
+}
+
+TEST(Reperes, ArgumentDeLatitudeConvertitDeuxFois) {
+    // anomalie_moy = 90 taken once more as degrees: m = pi/2, E = m (e = 0),
+    // nu = 2 atan(tan(pi/4)) = pi/2; perigee argument 10 deg
+    Etat e;
+    e.orbite.orb_argument = 10.0;
+    e.orb.anomalie_moy = 90.0;
+    EXPECT_NEAR(argument_latitude(e), 10.0 * DEG_RAD + DEMI_PI, PRECIS);
+}
+
+TEST(Euler, TauxAvecAnglesGardesSurCopie) {
+    // a0 = 0.5, a1 = 0.25, w = (1, 2, 3):
+    // q = sin .5 * 2 + cos .5 * 3 = 3.5915987628795...
+    // y3 = 1 + q tan .25 = 1.9170857283687548; y4 = 2 cos .5 - 3 sin .5
+    // = 0.3168885079681365; y5 = q / cos .25 = 3.706835295328804
+    Vec6 y{0.5, 0.25, -0.7, 0, 0, 0};
+    const Vec6 w{1, 2, 3, 0, 0, 0};
+    euler_taux(w, y);
+    EXPECT_NEAR(y[3], 1.9170857283687548, PRECIS);
+    EXPECT_NEAR(y[4], 0.3168885079681365, PRECIS);
+    EXPECT_NEAR(y[5], 3.706835295328804, PRECIS);
+
+    // an angle that the guard moves stays as it is in the state
+    Vec6 z{PI + 5e-13, 0.0, 0.0, 0, 0, 0};
+    euler_taux(w, z);
+    EXPECT_EQ(z[0], PI + 5e-13);
+}
+
+TEST(Euler, VersInertielSurOrbiteDeReference) {
+    // i = om = 0, u = 0, a = 0: A = I, T1 = I, T2 = transpose of rows
+    // (0,0,1), (1,0,0), (0,1,0) = rows (0,1,0), (0,0,1), (1,0,0).
+    // R(0,2) = 0 -> b1 = 0; b0 = atan2_v(1, 0) = pi/2; b2 = atan2_v(1, 0) = pi/2
+    Etat e;
+    e.orb.anomalie_moy = 0.0;
+    Vec3 b, c;
+    euler_vers_inertiel(e, Vec3{0, 0, 0}, b, c);
+    attend_vec(b, DEMI_PI, 0.0, DEMI_PI);
+    attend_vec(c, DEMI_PI + PI, PI, DEMI_PI + PI);
+}
+
+TEST(ResoutLineaire, SystemesConnus) {
+    // [[2,1,1],[1,3,2],[1,0,0]] x = (4,5,6): x0 = 6, x1 + x2 = -8,
+    // 3 x1 + 2 x2 = -1 -> x = (6, 15, -23)
+    const double A[9] = {2, 1, 1, 1, 3, 0, 1, 2, 0};  // first index fastest
+    const double b[3] = {4, 5, 6};
+    double x[3] = {0, 0, 0};
+    ASSERT_EQ(resout_lineaire(3, A, b, x), 0);
+    EXPECT_NEAR(x[0], 6.0, PRECIS);
+    EXPECT_NEAR(x[1], 15.0, PRECIS);
+    EXPECT_NEAR(x[2], -23.0, PRECIS);
+    // inputs untouched
+    EXPECT_EQ(A[0], 2.0);
+    EXPECT_EQ(b[2], 6.0);
+
+    // zeros on the diagonal force the row exchanges:
+    // x1 = 1, x0 = 2, 2 x3 = 3, 3 x2 = 4
+    double P[16] = {};
+    P[0 + 4 * 1] = 1;
+    P[1 + 4 * 0] = 1;
+    P[2 + 4 * 3] = 2;
+    P[3 + 4 * 2] = 3;
+    const double bp[4] = {1, 2, 3, 4};
+    double xp[4];
+    ASSERT_EQ(resout_lineaire(4, P, bp, xp), 0);
+    EXPECT_NEAR(xp[0], 2.0, PRECIS);
+    EXPECT_NEAR(xp[1], 1.0, PRECIS);
+    EXPECT_NEAR(xp[2], 4.0 / 3.0, PRECIS);
+    EXPECT_NEAR(xp[3], 1.5, PRECIS);
+}
+
+TEST(ResoutLineaire, GrandeTaille) {
+    // n = 20 (past the stack buffers): 4 on the diagonal, 1 next to it;
+    // with x = all ones, b is the row sums: 5 at both ends, 6 inside.
+    const int n = 20;
+    std::vector<double> A(n * n, 0.0), b(n), x(n);
+    for (int i = 0; i < n; ++i) {
+        A[i + n * i] = 4;
+        if (i > 0) A[i + n * (i - 1)] = 1;
+        if (i < n - 1) A[i + n * (i + 1)] = 1;
+        b[i] = (i == 0 || i == n - 1) ? 5 : 6;
+    }
+    ASSERT_EQ(resout_lineaire(n, A.data(), b.data(), x.data()), 0);
+    for (int i = 0; i < n; ++i) EXPECT_NEAR(x[i], 1.0, PRECIS);
+}
+
+TEST(ResoutLineaire, SingulierLaisseXIntact) {
+    // second row twice the first
+    const double A[4] = {1, 2, 2, 4};
+    const double b[2] = {1, 2};
+    double x[2] = {42.0, -42.0};
+    EXPECT_EQ(resout_lineaire(2, A, b, x), -1);
+    EXPECT_EQ(x[0], 42.0);
+    EXPECT_EQ(x[1], -42.0);
+
+    const double Z[9] = {};  // all zero
+    const double bz[3] = {1, 1, 1};
+    double xz[3] = {7, 7, 7};
+    EXPECT_EQ(resout_lineaire(3, Z, bz, xz), -1);
+    EXPECT_EQ(xz[1], 7.0);
+}
