@@ -1,0 +1,62 @@
+#include "shell/saisie.h"
+
+#include <QEvent>
+#include <QLineEdit>
+
+#include "shell/dialogues.h"
+
+namespace kestrel::gui {
+
+ControleSaisie::ControleSaisie(QLineEdit* champ, Dialogues& dialogues, Verification verif)
+    : QObject(champ), champ_(champ), dialogues_(dialogues), verif_(std::move(verif)),
+      ancien_(champ->text()) {
+    champ_->installEventFilter(this);
+}
+
+bool ControleSaisie::eventFilter(QObject* objet, QEvent* evt) {
+    if (objet == champ_ && !en_cours_) {
+        if (evt->type() == QEvent::FocusIn) ancien_ = champ_->text();
+        if (evt->type() == QEvent::FocusOut) verifie();
+    }
+    return QObject::eventFilter(objet, evt);
+}
+
+void ControleSaisie::verifie() {
+    const Verdict v = verif_(champ_->text());
+    if (v.ok) {
+        ancien_ = champ_->text();
+        return;
+    }
+    en_cours_ = true;
+    dialogues_.message(champ_, QString::fromStdString(v.message), v.icone);
+    champ_->setText(ancien_);
+    champ_->setFocus(Qt::OtherFocusReason);
+    en_cours_ = false;
+}
+
+ControleSaisie* surveille(QLineEdit* champ, Dialogues& dialogues, Verification verif) {
+    return new ControleSaisie(champ, dialogues, std::move(verif));
+}
+
+Verification reel_borne(double& cible, double min, double max, bool min_inclus, bool max_inclus) {
+    return [&cible, min, max, min_inclus, max_inclus](const QString& texte) {
+        double x = 0.0;
+        Verdict v = verif_double(texte.toStdString(), x);
+        if (v.ok) v = verif_bornes(x, min, max, min_inclus, max_inclus);
+        if (v.ok) cible = x;
+        return v;
+    };
+}
+
+Verification entier_borne(int32_t& cible, int32_t min, int32_t max, bool min_inclus,
+                          bool max_inclus) {
+    return [&cible, min, max, min_inclus, max_inclus](const QString& texte) {
+        int32_t n = 0;
+        Verdict v = verif_entier(texte.toStdString(), n);
+        if (v.ok) v = verif_bornes(n, min, max, min_inclus, max_inclus);
+        if (v.ok) cible = n;
+        return v;
+    };
+}
+
+}  // namespace kestrel::gui
