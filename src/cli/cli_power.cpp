@@ -1,15 +1,163 @@
-// Placeholder until the power sub-command lands.
+// kestrel power: reset, then one power step per date as the exploitation
+// window walks them; one CSV row per step, or a short summary.
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <memory>
+#include <sstream>
+
+#include <fmt/format.h>
+
 #include "cli/commun.h"
+#include "core/power/power.h"
+#include "core/shell/messages.h"
+#include "core/shell/parcours.h"
 
 namespace kestrel::cli {
 
-Commande enregistre_power(CLI::App& app) {
-    Commande c;
-    c.app = app.add_subcommand("power", "(not available yet)");
-    c.lance = [] {
-        std::cerr << "kestrel: power: not available yet\n";
-        return SORTIE_ECHEC;
+namespace {
+
+struct OptionsPower {
+    OptionsCommunes communes;
+    bool eol = false;
+    std::string pointage;  // "roulis,tangage,lacet", degrees
+    double spin = 0;       // turns per minute
+    bool resume = false;
+};
+
+void ecrit_entete(std::ostream& out) {
+    out << "date,eclipse,flux_sun,flux_alb,flux_ir,pan_angle,pan_target,gen_power,bat_soc,bat_v,bat_i,"
+           "bat_p,p_payload,p_excess,p_loss_ch,p_loss_de,p_loss_gs,p_loss_pl,p_heat,t_bat,t_charge,"
+           "t_discharge";
+    for (int i = 0; i < 39; ++i) out << ",node_t_" << i;
+    for (int i = 0; i < 36; ++i) out << ",pan_power_" << i;
+    for (int i = 0; i < 36; ++i) out << ",cell_eff_" << i;
+    out << "\n";
+}
+
+void ecrit_ligne(std::ostream& out, double date, const PowerRecord& p) {
+    std::string l;
+    l.reserve(3000);
+    auto ajoute = [&l](double x) {
+        l += ',';
+        l += nombre(x);
     };
+    l += nombre(date);
+    for (double x : {static_cast<double>(p.eclipse), static_cast<double>(p.flux_sun), p.flux_alb, p.flux_ir,
+                     p.pan_angle, p.pan_target, p.gen_power, p.bat_soc, p.bat_v, p.bat_i, p.bat_p, p.p_payload,
+                     p.p_excess, p.p_loss_ch, p.p_loss_de, p.p_loss_gs, p.p_loss_pl, p.p_heat, p.t_bat,
+                     static_cast<double>(p.t_charge), static_cast<double>(p.t_discharge)})
+        ajoute(x);
+    for (double x : p.node_t) ajoute(x);
+    for (double x : p.pan_power) ajoute(x);
+    for (float x : p.cell_eff) ajoute(x);
+    l += '\n';
+    out << l;
+}
+
+// Figures of a run for --summary.
+struct Resume {
+    long pas = 0, pas_eclipse = 0;
+    double soc_min = std::numeric_limits<double>::infinity(), soc_max = -soc_min;
+    double tbat_min = soc_min, tbat_max = -soc_min;
+    double pg_min = soc_min, pg_max = -soc_min, pg_somme = 0;
+
+    void ajoute(const PowerRecord& p) {
+        ++pas;
+        if (p.eclipse == VRAI) ++pas_eclipse;
+        soc_min = std::min(soc_min, p.bat_soc);
+        soc_max = std::max(soc_max, p.bat_soc);
+        tbat_min = std::min(tbat_min, p.t_bat);
+        tbat_max = std::max(tbat_max, p.t_bat);
+        pg_min = std::min(pg_min, p.gen_power);
+        pg_max = std::max(pg_max, p.gen_power);
+        pg_somme += p.gen_power;
+    }
+
+    void ecrit(std::ostream& out, const Etat& etat) const {
+        out << fmt::format("Simulation du sous-système d'énergie : {} pas de {} s\n", pas, etat.session.pas_sim);
+        out << fmt::format("Fraction en éclipse : {:.1f} %\n", pas ? 100.0 * pas_eclipse / pas : 0.0);
+        out << fmt::format("Charge batterie : min {:.1f} %, max {:.1f} %\n", 100 * soc_min, 100 * soc_max);
+        out << fmt::format("Température batterie : min {:.2f} °C, max {:.2f} °C\n", tbat_min, tbat_max);
+        out << fmt::format("Puissance générateur : min {:.2f} W, max {:.2f} W, moyenne {:.2f} W\n", pg_min, pg_max,
+                           pas ? pg_somme / pas : 0.0);
+    }
+};
+
+int lance_power(const OptionsPower& o) {
+    Etat etat;
+    if (int r = prepare_etat(o.communes, etat); r != SORTIE_OK) return r;
+
+    if (!o.pointage.empty()) {
+        double v[3];
+        char fin;
+        if (std::sscanf(o.pointage.c_str(), "%lf,%lf,%lf%c", &v[0], &v[1], &v[2], &fin) != 3) {
+            std::cerr << "kestrel: --pointing: trois angles en degrés attendus, « roulis,tangage,lacet »\n";
+            return SORTIE_ARGUMENTS;
+        }
+        etat.pointage.att_roulis = v[0];
+        etat.pointage.att_tangage = v[1];
+        etat.pointage.att_lacet = v[2];
+    }
+    etat.pointage.vitesse_spin = o.spin;
+    etat.pwr.cel_opt_beol = o.eol ? 1 : 0;
+
+    // Thermal ageing counts from the cells' date: a run cannot start before it.
+    if (!(etat.session.j_debut > etat.pwr.date_cell)) {
+        std::cerr << msg::date_cellules << "\n";
+        return SORTIE_ECHEC;
+    }
+
+    Sortie sortie(o.communes.out);
+    if (!sortie.ok()) {
+        std::cerr << "kestrel: impossible d'écrire " << o.communes.out << "\n";
+        return SORTIE_ECHEC;
+    }
+    std::ostream& out = sortie.flux();
+
+    power_state_init(etat);
+    etat.pwr.t_charge = 0;
+    etat.pwr.t_discharge = 0;
+
+    if (!o.resume) ecrit_entete(out);
+    Resume resume;
+    bool alerte_montree = false;
+    parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
+        etat.session.j_courant = j;
+        power_step(etat);
+        if (etat.pwr.alerte_charge) {
+            if (!alerte_montree) std::cerr << msg::incompat_charge << "\n";
+            alerte_montree = true;
+            etat.pwr.alerte_charge = false;
+        }
+        if (etat.faute || !power_etat_fini(etat, j)) return false;
+        if (o.resume)
+            resume.ajoute(etat.pwr);
+        else
+            ecrit_ligne(out, j, etat.pwr);
+        return true;
+    });
+    if (etat.faute) {
+        out.flush();
+        std::cerr << "kestrel: " << texte_erreur(etat.faute) << "\n";
+        return SORTIE_ECHEC;
+    }
+    if (o.resume) resume.ecrit(out, etat);
+    return SORTIE_OK;
+}
+
+}  // namespace
+
+Commande enregistre_power(CLI::App& app) {
+    auto o = std::make_shared<OptionsPower>();
+    Commande c;
+    c.app = app.add_subcommand("power", "Power system: one power_step per date, CSV rows");
+    ajoute_options_communes(c.app, o->communes);
+    c.app->add_flag("--eol", o->eol, "end-of-life cell values (\"EOL\")");
+    c.app->add_option("--pointing", o->pointage, "initial roll,pitch,yaw in degrees (yaw = initial spin angle)");
+    c.app->add_option("--spin", o->spin, "spin rate, turns per minute");
+    c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
+    c.lance = [o] { return lance_power(*o); };
     return c;
 }
 
