@@ -96,18 +96,24 @@ const TablesAtmosphere* tables_atmosphere(const std::string& dossier, Erreur& er
     return p;
 }
 
-double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt) {
+double flux_solaire_sinus(double date) {
+    // solar cycle stand-in: 36525-day period by this constant, kept as it is
+    double x = (date - 17712) / 36525;
+    return 135 + 65 * std::sin((x + x) * 3.14159265358979);
+}
+
+double flux_solaire(const TablesAtmosphere& t, double date) {
     Date d;
     jour_vers_date(date, d);
-    double F;
     if (d.an >= TablesAtmosphere::premiere_annee && d.an <= TablesAtmosphere::derniere_annee) {
         int n = (d.an - TablesAtmosphere::premiere_annee) * 12 + d.mois;  // from 1
-        F = t.flux[static_cast<std::size_t>(n - 1)];
-    } else {
-        // solar cycle stand-in: 36525-day period by this constant, kept as it is
-        double x = (date - 17712) / 36525;
-        F = 135 + 65 * std::sin((x + x) * 3.14159265358979);
+        return t.flux[static_cast<std::size_t>(n - 1)];
     }
+    return flux_solaire_sinus(date);
+}
+
+double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt) {
+    double F = flux_solaire(t, date);
 
     Vec3 s = soleil_vecteur(date);
     double rho = std::sqrt(s[0] * s[0] + s[1] * s[1]);

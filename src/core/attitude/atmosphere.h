@@ -36,6 +36,11 @@ Erreur charge_tables_atmosphere(const std::string& dossier, TablesAtmosphere& t)
 // a later call tries again.
 const TablesAtmosphere* tables_atmosphere(const std::string& dossier, Erreur& err);
 
+// F10.7 (sfu) for the month of `date`: the table from 1991 to 2007, the sine
+// 135 + 65 sin(2 pi (date - 17712) / 36525) elsewhere.
+double flux_solaire(const TablesAtmosphere& t, double date);
+double flux_solaire_sinus(double date);
+
 // K. date: days since 1950; lon, lat: rad (geodetic); alt: km.
 double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt);
 
