@@ -1,14 +1,101 @@
-// Placeholder until the orbit sub-command lands.
+// kestrel orbit: the satellite, the Sun and the ground point at each date of
+// the period, one CSV row per date (inertial 1950 frame, km, km/s, rad).
+#include <cmath>
+#include <string>
+
 #include "cli/commun.h"
+#include "core/orbit/orb_projection.h"
+#include "core/orbit/orb_trajecto.h"
+#include "core/shell/parcours.h"
 
 namespace kestrel::cli {
 
+namespace {
+
+constexpr const char* ENTETE =
+    "j,sat_x,sat_y,sat_z,vit_x,vit_y,vit_z,sun_x,sun_y,sun_z,eclipse,anomalie_moy,lon,lat,alt";
+
+// A value that is not finite stops the run like any other numerical fault.
+void verifie_fini(Etat& etat, double j) {
+    const SortiesOrbite& o = etat.orb;
+    const struct {
+        const char* nom;
+        double v;
+    } champs[] = {{"sat_pos", o.sat_pos[0] + o.sat_pos[1] + o.sat_pos[2]},
+                  {"sat_vit", o.sat_vit[0] + o.sat_vit[1] + o.sat_vit[2]},
+                  {"soleil_pos", o.soleil_pos[0] + o.soleil_pos[1] + o.soleil_pos[2]},
+                  {"anomalie_moy", o.anomalie_moy},
+                  {"sat_lon", o.sat_lon},
+                  {"sat_lat", o.sat_lat},
+                  {"sat_alt", o.sat_alt}};
+    for (const auto& c : champs)
+        if (!std::isfinite(c.v)) {
+            signale_faute(etat, CodeErreur::valeur_non_finie, j, c.nom);
+            return;
+        }
+}
+
+void ecrit_ligne(std::ostream& out, double j, const SortiesOrbite& o) {
+    std::string l = nombre(j);
+    auto ajoute = [&l](double x) {
+        l += ',';
+        l += nombre(x);
+    };
+    for (double x : o.sat_pos) ajoute(x);
+    for (double x : o.sat_vit) ajoute(x);
+    for (double x : o.soleil_pos) ajoute(x);
+    l += o.eclipse == VRAI ? ",-1" : ",0";
+    ajoute(o.anomalie_moy);
+    ajoute(o.sat_lon);
+    ajoute(o.sat_lat);
+    ajoute(o.sat_alt);
+    l += '\n';
+    out << l;
+}
+
+}  // namespace
+
 Commande enregistre_orbit(CLI::App& app) {
+    auto options = std::make_shared<OptionsCommunes>();
     Commande c;
-    c.app = app.add_subcommand("orbit", "(not available yet)");
-    c.lance = [] {
-        std::cerr << "kestrel: orbit: not available yet\n";
-        return SORTIE_ECHEC;
+    c.app = app.add_subcommand(
+        "orbit",
+        "Computes the satellite's orbit over the period: for each date, its position and velocity "
+        "(km, km/s, inertial frame of 1950), the Sun's position (km), whether the satellite is in "
+        "the Earth's shadow (-1 yes, 0 no), the mean anomaly (rad) and the point below it "
+        "(longitude and latitude in radians, altitude in km). Writes one CSV row per date with the "
+        "header " + std::string(ENTETE) + ". Without --start and --end the period runs from the "
+        "orbit's epoch to one orbital period later, every 120 s.");
+    ajoute_options_communes(c.app, *options);
+    c.lance = [options]() -> int {
+        Etat etat;
+        if (int r = prepare_etat(*options, etat); r != SORTIE_OK) return r;
+        Sortie sortie(options->out);
+        if (!sortie.ok()) {
+            std::cerr << "kestrel: impossible d'écrire le fichier « " << options->out << " »\n";
+            return SORTIE_ECHEC;
+        }
+        std::ostream& out = sortie.flux();
+        out << ENTETE << '\n';
+        parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
+            etat.session.j_courant = j;
+            orb_position(etat, j);
+            sous_point(etat, j, etat.orb.sat_pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
+            if (!etat.faute) verifie_fini(etat, j);
+            if (etat.faute) return false;
+            ecrit_ligne(out, j, etat.orb);
+            return true;
+        });
+        out.flush();
+        if (etat.faute) {
+            std::cerr << "kestrel: " << texte_erreur(etat.faute) << '\n';
+            return SORTIE_ECHEC;
+        }
+        if (!out) {
+            std::cerr << "kestrel: erreur d'écriture des résultats\n";
+            return SORTIE_ECHEC;
+        }
+        return SORTIE_OK;
     };
     return c;
 }

@@ -1,0 +1,122 @@
+// kestrel orbit on the built program: the header, the number of dates for a
+// known period and step, the first row at the epoch, and refused arguments.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+const char* const ENTETE =
+    "j,sat_x,sat_y,sat_z,vit_x,vit_y,vit_z,sun_x,sun_y,sun_z,eclipse,anomalie_moy,lon,lat,alt";
+
+struct Resultat {
+    int code = -1;
+    std::vector<std::string> lignes;  // standard output
+    std::string erreurs;              // standard error
+};
+
+Resultat lance_orbit(const std::string& arguments) {
+    const auto err = std::filesystem::temp_directory_path() / ("kestrel_orbit_err_" + std::to_string(::getpid()));
+    const std::string commande =
+        std::string("\"") + KESTREL_EXE + "\" orbit " + arguments + " 2>\"" + err.string() + "\"";
+    Resultat r;
+    FILE* f = ::popen(commande.c_str(), "r");
+    if (!f) return r;
+    std::string tout;
+    char tampon[4096];
+    size_t n;
+    while ((n = std::fread(tampon, 1, sizeof tampon, f)) > 0) tout.append(tampon, n);
+    const int statut = ::pclose(f);
+    r.code = WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+    std::istringstream in(tout);
+    for (std::string l; std::getline(in, l);) r.lignes.push_back(l);
+    std::ifstream e(err);
+    std::ostringstream es;
+    es << e.rdbuf();
+    r.erreurs = es.str();
+    std::filesystem::remove(err);
+    return r;
+}
+
+std::vector<std::string> champs(const std::string& ligne) {
+    std::vector<std::string> c;
+    std::istringstream in(ligne);
+    for (std::string x; std::getline(in, x, ',');) c.push_back(x);
+    return c;
+}
+
+}  // namespace
+
+TEST(CliOrbit, PeriodeParDefautUneOrbite) {
+    // Default orbit: epoch 2001, day 80.55001 -> j = 18628 + 79.55001; the
+    // period is 1 / 15 day = 5760 s, 48 steps of 120 s: 49 dates.
+    const Resultat r = lance_orbit("");
+    ASSERT_EQ(r.code, 0) << r.erreurs;
+    ASSERT_EQ(r.lignes.size(), 1u + 49u);
+    EXPECT_EQ(r.lignes[0], ENTETE);
+
+    const auto premier = champs(r.lignes[1]);
+    ASSERT_EQ(premier.size(), 15u);
+    EXPECT_DOUBLE_EQ(std::stod(premier[0]), 18707.55001);
+    EXPECT_EQ(std::stod(premier[11]), 0.0);  // mean anomaly at the epoch: 0
+    // at the node, on the equator: alt = a (1 - 1e-07) - 6378.137 = 795.8622826
+    EXPECT_EQ(std::stod(premier[13]), 0.0);
+    EXPECT_NEAR(std::stod(premier[14]), 795.8622826, 1e-9);
+    for (size_t k = 1; k < r.lignes.size(); ++k) {
+        const auto c = champs(r.lignes[k]);
+        ASSERT_EQ(c.size(), 15u) << k;
+        EXPECT_TRUE(c[10] == "-1" || c[10] == "0") << c[10];
+    }
+    // 17 significant digits: the date of the second row reads back exactly
+    EXPECT_EQ(std::stod(champs(r.lignes[2])[0]), 18707.55001 + 120.0 / 86400.0);
+}
+
+TEST(CliOrbit, PeriodeEtPasDonnes) {
+    // half a day every 600 s: 72 steps, 73 dates
+    Resultat r = lance_orbit("--start 20000 --end 20000.5 --step 600");
+    ASSERT_EQ(r.code, 0) << r.erreurs;
+    EXPECT_EQ(r.lignes.size(), 1u + 73u);
+    EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 20000.0);
+
+    // calendar dates: 2001-03-21 is day 18628 + 31 + 28 + 20 = 18707;
+    // one hour every 60 s: 61 dates
+    r = lance_orbit("--start 2001-03-21T00:00:00 --end 2001-03-21T01:00:00 --step 60");
+    ASSERT_EQ(r.code, 0) << r.erreurs;
+    EXPECT_EQ(r.lignes.size(), 1u + 61u);
+    EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 18707.0);
+}
+
+TEST(CliOrbit, FichierDeSortie) {
+    const auto chemin =
+        std::filesystem::temp_directory_path() / ("kestrel_orbit_" + std::to_string(::getpid()) + ".csv");
+    const Resultat r = lance_orbit("--step 960 --out \"" + chemin.string() + "\"");
+    ASSERT_EQ(r.code, 0) << r.erreurs;
+    EXPECT_TRUE(r.lignes.empty());
+    std::ifstream f(chemin);
+    std::string l;
+    int n = 0;
+    std::getline(f, l);
+    EXPECT_EQ(l, ENTETE);
+    while (std::getline(f, l)) ++n;
+    EXPECT_EQ(n, 7);  // 5760 s / 960 s = 6 steps
+    std::filesystem::remove(chemin);
+}
+
+TEST(CliOrbit, ArgumentsRefuses) {
+    for (const char* a : {"--start 2001-13-01T00:00:00", "--start hier", "--end 2001-02-30T25:00:00",
+                          "--step 0", "--step -60", "--start 20001 --end 20000", "--inconnu"}) {
+        const Resultat r = lance_orbit(a);
+        EXPECT_EQ(r.code, 2) << a;
+        EXPECT_TRUE(r.lignes.empty()) << a;
+        EXPECT_FALSE(r.erreurs.empty()) << a;
+        EXPECT_EQ(r.erreurs.find('\n'), r.erreurs.size() - 1) << a << ": " << r.erreurs;  // one line
+    }
+}
