@@ -1,6 +1,7 @@
 #include "shell/saisie.h"
 
 #include <QEvent>
+#include <QFocusEvent>
 #include <QLineEdit>
 
 #include "shell/dialogues.h"
@@ -16,7 +17,14 @@ ControleSaisie::ControleSaisie(QLineEdit* champ, Dialogues& dialogues, Verificat
 bool ControleSaisie::eventFilter(QObject* objet, QEvent* evt) {
     if (objet == champ_ && !en_cours_) {
         if (evt->type() == QEvent::FocusIn) ancien_ = champ_->text();
-        if (evt->type() == QEvent::FocusOut) verifie();
+        // Going to another program, a popup or a window being closed is no
+        // end of the entry.
+        if (evt->type() == QEvent::FocusOut) {
+            const auto raison = static_cast<QFocusEvent*>(evt)->reason();
+            if (raison != Qt::ActiveWindowFocusReason && raison != Qt::PopupFocusReason &&
+                champ_->isVisible())
+                verifie();
+        }
     }
     return QObject::eventFilter(objet, evt);
 }
