@@ -1,0 +1,233 @@
+// Disturbance torques on hand-worked cases. With the pointing angles at 0 the
+// body axes are the local orbital ones (x along track, y orbit normal, z
+// radial out), so a position maps to +z and a prograde velocity to +x.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/attitude/champ_igrf.h"
+#include "core/attitude/couples.h"
+#include "core/etat.h"
+#include "core/orbit/matrices.h"
+#include "core/orbit/orb_projection.h"
+
+namespace kestrel {
+namespace {
+
+Etat etat_test() {
+    Etat e;
+    e.session.dossier_depart = KESTREL_BIN_DIR;
+    e.orb.sat_pos = {7000, 0, 0};
+    e.orb.sat_vit = {0, 7.5, 0};
+    e.orb.sat_alt = 600;
+    return e;
+}
+
+constexpr double DATE = 18000.25;
+
+// --- gravity gradient ---------------------------------------------------------
+
+TEST(CoupleGravite, ProduitsDInertieSurLaVerticale) {
+    // n = (0, 0, 1): n x (J n) = n x (-Ixz, -Iyz, Izz) = (Iyz, -Ixz, 0)
+    // 1195803.9 / 7000³ = 3.486308746e-06 s⁻²
+    Etat e = etat_test();
+    e.att.I(0, 2) = e.att.I(2, 0) = 0.3;
+    e.att.I(1, 2) = e.att.I(2, 1) = 0.2;
+    couple_gravite(e);
+    const double k = 3.486308746355685e-06;
+    EXPECT_NEAR(e.att.c_gravite[0], 0.2 * k, 1e-15);
+    EXPECT_NEAR(e.att.c_gravite[1], -0.3 * k, 1e-15);
+    EXPECT_NEAR(e.att.c_gravite[2], 0.0, 1e-15);
+}
+
+TEST(CoupleGravite, TangageDe30Degres) {
+    // pitch 30 deg: n = (-sin 30, 0, cos 30); diagonal J gives
+    // n x Jn = (0, sin30 cos30 (Izz - Ixx), 0) = (0, 0.4330127 x 0.353, 0)
+    Etat e = etat_test();
+    e.pointage.theta = 30;
+    couple_gravite(e);
+    const double k = 3.486308746355685e-06;
+    EXPECT_NEAR(e.att.c_gravite[0], 0.0, 1e-15);
+    EXPECT_NEAR(e.att.c_gravite[1], k * 0.5 * std::sqrt(3.0) / 2 * (2.541 - 2.188), 1e-15);
+    EXPECT_NEAR(e.att.c_gravite[2], 0.0, 1e-15);
+}
+
+// --- aerodynamic --------------------------------------------------------------
+
+// Wind along +x body; below 100 km the density is 3.43e-06 kg/m³ whatever T.
+// F = 1 + (90 - 100) 0.4 / 300; v = 7.5 - F 7.2921e-05 x 7000 = 6.99635734 km/s
+// q = 3.43e-06 x 0.5 x v² x 1e7 = 839.4756239; face +x (area 0.2025 m²) with
+// its centre moved by d along y: torque z = 0.2025 d 2 q (2 - 0.9) = 373.98639 d
+Etat etat_aero(double d, double alt) {
+    Etat e = etat_test();
+    e.orb.sat_alt = alt;
+    e.att.face_c[0] = {0.225, d, 0};
+    return e;
+}
+
+TEST(CoupleAero, FaceDecaleeSousLeVent) {
+    Etat e = etat_aero(1e-3, 90);
+    couple_aero(e, DATE);
+    EXPECT_FALSE(e.faute);
+    EXPECT_EQ(e.att.c_aero[0], 0.0);
+    EXPECT_EQ(e.att.c_aero[1], 0.0);
+    EXPECT_NEAR(e.att.c_aero[2], 373.9863904382465e-3, 1e-9);
+}
+
+TEST(CoupleAero, CoupureA1e10) {
+    Etat e = etat_aero(1e-13, 90);  // 3.7e-11 N.m: cut
+    couple_aero(e, DATE);
+    EXPECT_EQ(e.att.c_aero[2], 0.0);
+    Etat f = etat_aero(1e-12, 90);  // 3.7e-10 N.m: kept
+    couple_aero(f, DATE);
+    EXPECT_NEAR(f.att.c_aero[2], 3.739863904382465e-10, 1e-15);
+}
+
+TEST(CoupleAero, NulDes2500Km) {
+    Etat e = etat_aero(1e-3, 2500);
+    couple_aero(e, DATE);
+    EXPECT_EQ(e.att.c_aero, (Vec3{0, 0, 0}));
+    EXPECT_FALSE(e.faute);
+}
+
+TEST(CoupleAero, TablesAbsentesSignaleesParNom) {
+    Etat e = etat_aero(1e-3, 90);
+    e.session.dossier_depart = "/nonexistent-kestrel-folder";
+    couple_aero(e, DATE);
+    EXPECT_EQ(e.faute.code, CodeErreur::fichier_donnees);
+    EXPECT_NE(e.faute.detail.find("flux_solaire.txt"), std::string::npos);
+}
+
+// --- solar pressure -----------------------------------------------------------
+
+// The satellite on the Earth-Sun line, Sun side. Every face but +z reflects
+// all its light (cr 1, cd 0) and sits centred, so its push lies along its own
+// lever and gives no torque; +z keeps cr 0.9, cd 0.05 and has its centre moved
+// by 0.1 m along x.
+Etat etat_solaire(double cote) {
+    Etat e = etat_test();
+    Vec3 s = soleil_vecteur(DATE);
+    double l = std::sqrt(s[0] * s[0] + s[1] * s[1] + s[2] * s[2]);
+    for (int i = 0; i < 3; ++i) e.orb.sat_pos[i] = cote * 7000 * s[i] / l;
+    e.orb.eclipse = FAUX;
+    e.att.cr = {1, 1, 0.9, 1, 1, 1};
+    e.att.cd = {0, 0, 0.05, 0, 0, 0};
+    e.att.face_c[2] = {0.1, 0, 0.225};
+    return e;
+}
+
+TEST(CoupleSolaire, FaceEclaireeDecalee) {
+    Etat e = etat_solaire(1);
+    couple_solaire(e, DATE);
+    // Sun direction in body axes (the pointing turn), then the +z face alone:
+    // P = (2 (0.05/3 + 0.9) n + 0.1 S) 0.2025 (-2.322e-06) S_z, torque = f x P
+    Vec3 s = soleil_vecteur(DATE), S;
+    double l = std::sqrt(s[0] * s[0] + s[1] * s[1] + s[2] * s[2]);
+    for (double& x : s) x /= l;
+    inertiel_vers_corps(e, s, S);
+    ASSERT_GT(S[2], 0.5);
+    const double k = 0.2025 * -2.322e-06 * S[2];
+    const Vec3 P{0.1 * S[0] * k, 0.1 * S[1] * k, (2 * (0.05 / 3 + 0.9) + 0.1 * S[2]) * k};
+    // f = (0.1, 0, 0.225): f x P = (-0.225 P_y, 0.225 P_x - 0.1 P_z, 0.1 P_y)
+    EXPECT_NEAR(e.att.c_solaire[0], -0.225 * P[1], 1e-20);
+    EXPECT_NEAR(e.att.c_solaire[1], 0.225 * P[0] - 0.1 * P[2], 1e-20);
+    EXPECT_NEAR(e.att.c_solaire[2], 0.1 * P[1], 1e-20);
+    EXPECT_GT(e.att.c_solaire[1], 0.0);  // the push on +z tips the moved face away
+}
+
+TEST(CoupleSolaire, ExactementNulEnEclipse) {
+    Etat e = etat_solaire(1);
+    e.orb.eclipse = VRAI;
+    e.att.c_solaire = {1, 1, 1};
+    couple_solaire(e, DATE);
+    EXPECT_EQ(e.att.c_solaire, (Vec3{0, 0, 0}));
+}
+
+TEST(CoupleSolaire, FacesDosAuSoleilSansEffet) {
+    // far side (flag forced off): only -z is lit, centred; the moved +z face
+    // is turned away and adds nothing
+    Etat e = etat_solaire(-1);
+    couple_solaire(e, DATE);
+    EXPECT_EQ(e.att.c_solaire, (Vec3{0, 0, 0}));
+}
+
+// --- magnetic field and torque ---------------------------------------------------
+
+// date 16425 = 45 x 365: t = 0, the constant terms of the table.
+constexpr double T0 = 16425.0;
+
+TEST(ChampIgrf, CoefficientsFonctionsDuTemps) {
+    CoefficientsIgrf c = coefficients_igrf(T0 + 3650);  // t = 10
+    EXPECT_NEAR(c.g[1][0], -29682 + 176, 1e-9);
+    EXPECT_NEAR(c.h[5][4], -64 + 1.8 * 100, 1e-9);  // square in t
+    EXPECT_DOUBLE_EQ(c.h[5][3], -151.7);             // fixed
+    EXPECT_DOUBLE_EQ(c.g[6][6], -94);
+    EXPECT_NEAR(c.h[4][4], -311, 1e-9);
+}
+
+TEST(ChampIgrf, PoleNordALaSurface) {
+    // On the axis only m = 0 enters B0: sum (n+1) g(n,0) =
+    // 2(-29682) + 3(-2197) + 4(1329) + 5(941) + 6(-210) + 7(66) = -56732 nT.
+    // Horizontal parts from m = 1, dP(n,1)/dtheta -> sqrt(n(n+1)/2) at the pole:
+    // B1 = -sum g(n,1) sqrt(n(n+1)/2) = -2109.36, B2 = -sum h(n,1) sqrt(..) = -1518.68
+    Vec3 b = champ_igrf(T0, IGRF_RAYON, 1e-7, 0.0);
+    EXPECT_NEAR(b[0], -56732, 0.05);
+    EXPECT_NEAR(b[1], -2109.3576, 0.05);
+    EXPECT_NEAR(b[2], -1518.6793, 0.05);
+}
+
+TEST(ChampIgrf, PoleSudALaSurface) {
+    // P(n,0)(-1) = (-1)^n: 59364 - 6591 - 5316 + 4705 + 1260 + 462 = 53884 nT
+    Vec3 b = champ_igrf(T0, IGRF_RAYON, PI - 1e-7, 0.0);
+    EXPECT_NEAR(b[0], 53884, 0.05);
+}
+
+TEST(ChampIgrf, DipoleLoinDeLaTerre) {
+    // r = 1e5 a: degree 1 only, to 1e-4. theta = 60 deg, phi = 30 deg, k = 1e-15:
+    // G = g11 cos phi + h11 sin phi; B0 = 2k (g10 cos th + G sin th),
+    // B1 = -k (-g10 sin th + G cos th), B2 = -k (-g11 sin phi + h11 cos phi)
+    const double th = PI / 3, ph = PI / 6, k = 1e-15;
+    const double g10 = -29682, g11 = -1789, h11 = 5318;
+    const double G = g11 * std::cos(ph) + h11 * std::sin(ph);
+    Vec3 b = champ_igrf(T0, 1e5 * IGRF_RAYON, th, ph);
+    EXPECT_NEAR(b[0], 2 * k * (g10 * std::cos(th) + G * std::sin(th)), 3e-15);
+    EXPECT_NEAR(b[1], -k * (-g10 * std::sin(th) + G * std::cos(th)), 3e-15);
+    EXPECT_NEAR(b[2], -k * (-g11 * std::sin(ph) + h11 * std::cos(ph)), 3e-15);
+}
+
+TEST(ChampIgrf, IntensiteALEquateurEn1995) {
+    // Published 1995 charts: about 30 000 to 34 000 nT on the equator at
+    // Greenwich, the field pointing north (B1 < 0) and nearly horizontal.
+    Vec3 b = champ_igrf(T0, IGRF_RAYON, PI / 2, 0.0);
+    double f = std::sqrt(b[0] * b[0] + b[1] * b[1] + b[2] * b[2]);
+    EXPECT_GT(f, 29000);
+    EXPECT_LT(f, 35000);
+    EXPECT_LT(b[1], -25000);
+}
+
+TEST(CoupleMagnetique, DipoleCroiseAvecLeChamp) {
+    // D x B is normal to D, and nil with no dipole
+    Etat e = etat_test();
+    e.att.dip_res = {1, 2, 3};
+    couple_magnetique(e, DATE);
+    const Vec3& c = e.att.c_magnetique;
+    double m = std::sqrt(c[0] * c[0] + c[1] * c[1] + c[2] * c[2]);
+    EXPECT_GT(m, 1e-6);  // |D| 3.7 A m², |B| some 2e-5 T at 620 km
+    EXPECT_LT(m, 3.8 * 6e-5);
+    EXPECT_NEAR(c[0] * 1 + c[1] * 2 + c[2] * 3, 0.0, 1e-18);
+    e.att.dip_res = {};
+    couple_magnetique(e, DATE);
+    EXPECT_EQ(e.att.c_magnetique, (Vec3{0, 0, 0}));
+}
+
+TEST(TotalTorque, SommeDesQuatreModeles) {
+    Etat e = etat_test();
+    e.att.face_c[0] = {0.225, 0.01, 0};
+    total_torque(e, DATE);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NEAR(e.att.ctot[i],
+                    e.att.c_gravite[i] + e.att.c_aero[i] + e.att.c_solaire[i] + e.att.c_magnetique[i], 1e-18);
+}
+
+}  // namespace
+}  // namespace kestrel
