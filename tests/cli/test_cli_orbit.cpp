@@ -94,22 +94,6 @@ TEST(CliOrbit, PeriodeEtPasDonnes) {
     EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 18707.0);
 }
 
-TEST(CliOrbit, FichierDeSortie) {
-    const auto chemin =
-        std::filesystem::temp_directory_path() / ("kestrel_orbit_" + std::to_string(::getpid()) + ".csv");
-    const Resultat r = lance_orbit("--step 960 --out \"" + chemin.string() + "\"");
-    ASSERT_EQ(r.code, 0) << r.erreurs;
-    EXPECT_TRUE(r.lignes.empty());
-    std::ifstream f(chemin);
-    std::string l;
-    int n = 0;
-    std::getline(f, l);
-    EXPECT_EQ(l, ENTETE);
-    while (std::getline(f, l)) ++n;
-    EXPECT_EQ(n, 7);  // 5760 s / 960 s = 6 steps
-    std::filesystem::remove(chemin);
-}
-
 TEST(CliOrbit, ArgumentsRefuses) {
     for (const char* a : {"--start 2001-13-01T00:00:00", "--start hier", "--end 2001-02-30T25:00:00",
                           "--step 0", "--step -60", "--start 20001 --end 20000", "--inconnu"}) {

@@ -73,14 +73,6 @@ TEST(OrbPosition, AnomalieAvanceAuTauxDuDemiGrandAxe) {
     EXPECT_LT(e.orb.anomalie_moy, DEUX_PI);
 }
 
-TEST(OrbPosition, MouvementMoyenSaisiSansEffet) {
-    Etat e1, e2;
-    e2.orbite.orb_moy_mvt = 3.0;
-    orb_position(e1, 18700.3);
-    orb_position(e2, 18700.3);
-    EXPECT_TRUE(memes_bits(e1.orb, e2.orb));
-}
-
 TEST(OrbPosition, CirculaireEquatorialeFinie) {
     // default orbit: i = e = 0, a = 7174 km. With the substitutions e = 1e-07,
     // i = 5e-06 deg: r = a (1 - e cos E) within 1e-07 a, speed sqrt(mu / a)
@@ -113,6 +105,10 @@ TEST(OrbPosition, MemeDateMemesBits) {
     orb_position(e, 18640.125);
     const SortiesOrbite premier = e.orb;
     orb_position(e, 18641.5);  // another date in between
+    orb_position(e, 18640.125);
+    EXPECT_TRUE(memes_bits(premier, e.orb));
+    // the entered mean motion is shown only: the rate comes from orb_demi
+    e.orbite.orb_moy_mvt = 3.0;
     orb_position(e, 18640.125);
     EXPECT_TRUE(memes_bits(premier, e.orb));
 }
@@ -165,20 +161,6 @@ TEST(OrbPosition, OmbreDuCone) {
     }
     EXPECT_NEAR(static_cast<double>(ombre) / n, 0.353549, 0.001);
 
-    // satellite between the Earth and the Sun: never in shadow
-    orb_position(e, 18707.55);
-    const Vec3 s = e.orb.soleil_pos;
-    const double ls = std::atan2(s[1], s[0]);
-    // move the anomaly so that the satellite longitude matches the Sun's
-    const double lsat = std::atan2(e.orb.sat_pos[1], e.orb.sat_pos[0]);
-    e.orbite.orb_anomalie += (ls - lsat) / DEG_RAD;
-    orb_position(e, 18707.55);
-    EXPECT_LT(e.orb.vec_nadir[0] * e.orb.vec_soleil[0] + e.orb.vec_nadir[1] * e.orb.vec_soleil[1], 0.0);
-    EXPECT_EQ(e.orb.eclipse, FAUX);
-    // and opposite the Sun: in shadow
-    e.orbite.orb_anomalie += 180.0;
-    orb_position(e, 18707.55);
-    EXPECT_EQ(e.orb.eclipse, VRAI);
 }
 
 TEST(OrbPosition, FautesSignaleesSansBoucler) {
