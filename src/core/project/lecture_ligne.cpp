@@ -68,6 +68,11 @@ bool LecteurLignes::echec(long ligne, const std::string& texte) {
     return false;
 }
 
+bool LecteurLignes::echec_jeton(const Jeton& j) {
+    // An empty text stands for the end of the file; an empty value says so.
+    return echec(j.ligne, j.texte.empty() ? "(valeur absente)" : j.texte);
+}
+
 bool LecteurLignes::lit_jeton(Jeton& j) {
     if (erreur_) return false;
     while (pos_ < texte_.size() && blanc(texte_[pos_])) ++pos_;
@@ -123,10 +128,10 @@ bool LecteurLignes::entier(T& v, double min, double max) {
     if (!lit_jeton(j)) return false;
     if (j.commentaire) return true;
     double x;
-    if (!convertit(quatorze(j.texte), x)) return echec(j.ligne, j.texte);
+    if (!convertit(quatorze(j.texte), x)) return echec_jeton(j);
     // A real in an integer line rounds to the nearest, ties to even.
     x = std::nearbyint(x);
-    if (x < min || x > max) return echec(j.ligne, j.texte);
+    if (x < min || x > max) return echec_jeton(j);
     v = static_cast<T>(x);
     return true;
 }
@@ -141,7 +146,7 @@ bool LecteurLignes::lecture_ligne_booleen(int16_t& v) {
     if (!lit_jeton(j)) return false;
     if (j.commentaire) return true;
     double x;
-    if (!convertit(quatorze(j.texte), x)) return echec(j.ligne, j.texte);
+    if (!convertit(quatorze(j.texte), x)) return echec_jeton(j);
     v = (x != 0.0) ? VRAI : FAUX;
     return true;
 }
@@ -150,7 +155,7 @@ bool LecteurLignes::lecture_ligne(float& v) {
     Jeton j;
     if (!lit_jeton(j)) return false;
     if (j.commentaire) return true;
-    if (!convertit(quatorze(j.texte), v)) return echec(j.ligne, j.texte);
+    if (!convertit(quatorze(j.texte), v)) return echec_jeton(j);
     return true;
 }
 
@@ -158,14 +163,14 @@ bool LecteurLignes::lecture_ligne(double& v) {
     Jeton j;
     if (!lit_jeton(j)) return false;
     if (j.commentaire) return true;
-    if (!convertit(quatorze(j.texte), v)) return echec(j.ligne, j.texte);
+    if (!convertit(quatorze(j.texte), v)) return echec_jeton(j);
     return true;
 }
 
 bool LecteurLignes::lecture_jeton_reel(double& v) {
     Jeton j;
     if (!lit_jeton(j)) return false;
-    if (j.commentaire || !convertit(j.texte, v)) return echec(j.ligne, j.texte);
+    if (j.commentaire || !convertit(j.texte, v)) return echec_jeton(j);
     return true;
 }
 

@@ -43,6 +43,7 @@ private:
     // The 14 characters kept for conversion, trimmed; empty when absent.
     static std::string quatorze(const std::string& t);
     bool echec(long ligne, const std::string& texte);
+    bool echec_jeton(const Jeton& j);
     template <class T>
     bool entier(T& v, double min, double max);
 
