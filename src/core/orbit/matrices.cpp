@@ -49,17 +49,22 @@ void vec_somme(const Vec3& a, const Vec3& b, Vec3& r) {
 
 namespace {
 
-// Inertial -> plane matrix, om and i in degrees, om referred to 1950. This
-// turn converts with pi / 180 in that order, unlike the others.
-Mat3 matrice_plan(const Orbite& orbite, double om, double i) {
-    const double omr = ascension_1950(orbite, om) * 3.14159265358979 / 180.0;
-    const double ir = i * 3.14159265358979 / 180.0;
-    const double co = std::cos(omr), so = std::sin(omr), ci = std::cos(ir), si = std::sin(ir);
+// R1(i) R3(om), angles in radians: rows (cos om, sin om, 0),
+// (-cos i sin om, cos i cos om, sin i), (sin i sin om, -sin i cos om, cos i).
+Mat3 matrice_r1_r3(double om, double i) {
+    const double co = std::cos(om), so = std::sin(om), ci = std::cos(i), si = std::sin(i);
     Mat3 M;
     M(0, 0) = co;       M(0, 1) = so;       M(0, 2) = 0.0;
     M(1, 0) = -ci * so; M(1, 1) = ci * co;  M(1, 2) = si;
     M(2, 0) = si * so;  M(2, 1) = -si * co; M(2, 2) = ci;
     return M;
+}
+
+// Inertial -> plane matrix, om and i in degrees, om referred to 1950. This
+// turn converts with pi / 180 in that order, unlike the others.
+Mat3 matrice_plan(const Orbite& orbite, double om, double i) {
+    return matrice_r1_r3(ascension_1950(orbite, om) * 3.14159265358979 / 180.0,
+                         i * 3.14159265358979 / 180.0);
 }
 
 Mat3 transposee(const Mat3& M) {
@@ -69,9 +74,8 @@ Mat3 transposee(const Mat3& M) {
     return T;
 }
 
-// Local orbital form A -> body: yaw psi, pitch theta, roll phi, degrees.
-Mat3 matrice_corps(double psi, double theta, double phi) {
-    const double p = psi * DEG_RAD, t = theta * DEG_RAD, f = phi * DEG_RAD;
+// Yaw p, pitch t, roll f (radians): R1(f) R2(t) R3(p).
+Mat3 matrice_lacet_tangage_roulis(double p, double t, double f) {
     const double cp = std::cos(p), sp = std::sin(p), ct = std::cos(t), st = std::sin(t);
     const double cf = std::cos(f), sf = std::sin(f);
     Mat3 M;
@@ -81,16 +85,13 @@ Mat3 matrice_corps(double psi, double theta, double phi) {
     return M;
 }
 
-// R1(i) R3(om), degrees, no 1950 correction.
-Mat3 matrice_orbital_i(double om_deg, double i_deg) {
-    const double om = om_deg * DEG_RAD, i = i_deg * DEG_RAD;
-    const double co = std::cos(om), so = std::sin(om), ci = std::cos(i), si = std::sin(i);
-    Mat3 M;
-    M(0, 0) = co;       M(0, 1) = so;       M(0, 2) = 0.0;
-    M(1, 0) = -ci * so; M(1, 1) = ci * co;  M(1, 2) = si;
-    M(2, 0) = si * so;  M(2, 1) = -si * co; M(2, 2) = ci;
-    return M;
+// Local orbital form A -> body: yaw psi, pitch theta, roll phi, degrees.
+Mat3 matrice_corps(double psi, double theta, double phi) {
+    return matrice_lacet_tangage_roulis(psi * DEG_RAD, theta * DEG_RAD, phi * DEG_RAD);
 }
+
+// R1(i) R3(om), degrees, no 1950 correction.
+Mat3 matrice_orbital_i(double om_deg, double i_deg) { return matrice_r1_r3(om_deg * DEG_RAD, i_deg * DEG_RAD); }
 
 // Form A -> form B by the argument of latitude u (rad).
 Mat3 matrice_orbital_u(double u) {
@@ -202,12 +203,8 @@ void euler_vers_inertiel(const Etat& etat, const Vec3& a, Vec3& b, Vec3& c) {
     angle_garde(a0);
     angle_garde(a1);
     angle_garde(a2);
-    const double s0 = std::sin(a0), c0 = std::cos(a0), s1 = std::sin(a1), c1 = std::cos(a1);
-    const double s2 = std::sin(a2), c2 = std::cos(a2);
-    Mat3 A;
-    A(0, 0) = c1 * c2;                A(0, 1) = c1 * s2;                A(0, 2) = -s1;
-    A(1, 0) = s0 * s1 * c2 - c0 * s2; A(1, 1) = s0 * s1 * s2 + c0 * c2; A(1, 2) = s0 * c1;
-    A(2, 0) = c0 * s1 * c2 + s0 * s2; A(2, 1) = c0 * s1 * s2 - s0 * c2; A(2, 2) = c0 * c1;
+    // R1(a0) R2(a1) R3(a2): the body turn with a2 as yaw and a0 as roll.
+    const Mat3 A = matrice_lacet_tangage_roulis(a2, a1, a0);
 
     const Orbite& o = etat.orbite;
     const Mat3 T1 = transposee(matrice_orbital_i(-o.orb_ascension, -o.orb_inclinaison));

@@ -193,6 +193,18 @@ TEST(Euler, VersInertielSurOrbiteDeReference) {
     euler_vers_inertiel(e, Vec3{0, 0, 0}, b, c);
     attend_vec(b, DEMI_PI, 0.0, DEMI_PI);
     attend_vec(c, DEMI_PI + PI, PI, DEMI_PI + PI);
+
+    // a = (0.1, 0.2, 0.3): R = A T2 moves the columns of A: R(i,0) = A(i,2),
+    // R(i,1) = A(i,0), R(i,2) = A(i,1), with A(0,1) = c1 s2, A(1,1) = s0 s1 s2
+    // + c0 c2, A(2,1) = c0 s1 s2 - s0 c2, A(0,0) = c1 c2, A(0,2) = -s1.
+    const double s0 = std::sin(0.1), c0 = std::cos(0.1), s1 = std::sin(0.2), c1 = std::cos(0.2);
+    const double s2 = std::sin(0.3), c2 = std::cos(0.3);
+    euler_vers_inertiel(e, Vec3{0.1, 0.2, 0.3}, b, c);
+    EXPECT_NEAR(b[1], -std::asin(c1 * s2), PRECIS);
+    // x = 0.0584 - 0.0954 < 0 and y > 0: + pi
+    EXPECT_NEAR(b[0], std::atan((s0 * s1 * s2 + c0 * c2) / (c0 * s1 * s2 - s0 * c2)) + PI, PRECIS);
+    EXPECT_NEAR(b[2], std::atan(c1 * c2 / -s1) + PI, PRECIS);  // x < 0, y >= 0: + pi
+    EXPECT_NEAR(c[1], PI - b[1], 0.0);
 }
 
 TEST(ResoutLineaire, SystemesConnus) {
