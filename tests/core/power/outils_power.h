@@ -1,0 +1,65 @@
+// Small builders shared by the power tests: a record with the Sun and the
+// Earth placed by hand, and the four layouts of the satellite.
+#pragma once
+#include <cmath>
+
+#include "core/etat.h"
+
+namespace kestrel::essai {
+
+// Unit direction of elevation el and azimuth az (rad) into the (z, sxy, az) form.
+inline void pose_soleil(PowerRecord& p, double el, double az) {
+    p.sun_z = std::sin(el);
+    p.sun_sxy = std::cos(el);
+    p.sun_az = az;
+}
+inline void pose_nadir(PowerRecord& p, double el, double az) {
+    p.nad_z = std::sin(el);
+    p.nad_sxy = std::cos(el);
+    p.nad_az = az;
+}
+
+// Sun at the zenith of +z, Earth under -z, 7000 km from the centre, no albedo
+// or infrared: only the top surface sees anything.
+inline Etat etat_soleil_zenith(double flux = 1000.0) {
+    Etat e;
+    e.orb.sat_pos = {7000.0, 0.0, 0.0};
+    pose_soleil(e.pwr, PI / 2, 0.0);
+    pose_nadir(e.pwr, -PI / 2, 0.0);
+    e.pwr.flux_sun = static_cast<float>(flux);
+    e.pwr.flux_alb = 0;
+    e.pwr.flux_ir = 0;
+    e.pwr.eclipse = FAUX;
+    return e;
+}
+
+// Lateral faces of a prism as the project reader derives them.
+inline void pose_faces(PowerRecord& p, int opt_faces) {
+    p.opt_panel_ext = FAUX;
+    p.opt_faces = static_cast<int16_t>(opt_faces);
+    p.nb_faces = opt_faces == 0 ? 4 : (opt_faces == 1 ? 6 : 0);
+    for (int i = 0; i < p.nb_faces; ++i) {
+        p.face_azim[i] = i * (361 / p.nb_faces) * DEG_RAD;
+        p.face_elev[i] = 0;
+    }
+}
+
+// Cells whose strings stand above a 13 V battery bus (7 x 2.6 V), so that the
+// generator gives power in the sun.
+inline void pose_cellules(PowerRecord& p) {
+    p.cel_isc = 0.52f;
+    p.cel_imp = 0.50f;
+    p.cel_voc = 2.60f;
+    p.cel_vmp = 2.30f;
+    p.cel_dvoc = -0.0062f;
+    p.cel_dvmp = -0.0065f;
+    p.cel_ns = 7;
+    p.cel_np = 8;
+    p.cel_surface = 30;
+    p.pan_speed = 1.0f;
+    p.fac_cond = {3, 3, 3};
+    p.ext_cond = {3, 3, 3, 3, 3, 3};
+    p.p_demand = {30, 25};
+}
+
+}  // namespace kestrel::essai

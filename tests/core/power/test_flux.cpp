@@ -1,0 +1,97 @@
+// Incidences, the cell law and the fluxes on hand-placed geometries.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/power/flux.h"
+#include "outils_power.h"
+
+namespace kestrel {
+namespace {
+
+using essai::etat_soleil_zenith;
+
+TEST(CellCosine, CosineThenParabolaReachingZeroAtIncMax) {
+    Etat e;  // inc_div 50 deg, inc_max 75 deg
+    EXPECT_DOUBLE_EQ(cell_cosine(e, 0.0), 1.0);
+    EXPECT_DOUBLE_EQ(cell_cosine(e, 40 * DEG_RAD), std::cos(40 * DEG_RAD));
+    // d = 0.872665, m = 1.308997: A = (sin d (m-d) - cos d)/(m-d)^2 = -1.620591,
+    // B = -sin d - 2 A d = 2.062421, C = -A m^2 - B m = 0.077137; at 62.5 deg: 0.398528
+    EXPECT_NEAR(cell_cosine(e, 62.5 * DEG_RAD), 0.3985282213, 1e-9);
+    EXPECT_NEAR(cell_cosine(e, 75 * DEG_RAD - 1e-9), 0.0, 1e-8);
+    EXPECT_EQ(cell_cosine(e, 80 * DEG_RAD), 0.0);
+    EXPECT_EQ(cell_cosine(e, PI), 0.0);  // behind the cell: never negative
+}
+
+TEST(CellCosine, ContinuousInValueAndSlopeAtIncDiv) {
+    Etat e;
+    const double d = 50 * DEG_RAD, h = 1e-6;
+    EXPECT_NEAR(cell_cosine(e, d + 1e-12), std::cos(d), 1e-10);
+    // Slope of the cosine there: -sin d = -0.766044 on both sides.
+    const double gauche = (cell_cosine(e, d) - cell_cosine(e, d - h)) / h;
+    const double droite = (cell_cosine(e, d + h) - cell_cosine(e, d)) / h;
+    EXPECT_NEAR(gauche, -std::sin(d), 1e-5);
+    EXPECT_NEAR(droite, -std::sin(d), 1e-5);
+}
+
+TEST(Flux, SunAtZenithOfAFace) {
+    Etat e = etat_soleil_zenith(1000.0);
+    EXPECT_NEAR(incidence_sun(e, PI / 2, 0), 0.0, 1e-7);
+    EXPECT_NEAR(solar_flux_direct(e, PI / 2, 0), 1000.0, 1e-9);
+    EXPECT_NEAR(cell_flux(e, PI / 2, 0), 1000.0, 1e-9);
+    EXPECT_NEAR(solar_albedo_flux(e, PI / 2, 0), 1000.0, 1e-9);
+    // A lateral face sees the Sun at grazing incidence: nothing.
+    EXPECT_NEAR(solar_flux_direct(e, 0, 0), 0.0, 1e-9);
+    EXPECT_EQ(cell_flux(e, 0, 0), 0.0);
+}
+
+TEST(Flux, SunBehindTheFaceGivesNothing) {
+    Etat e = etat_soleil_zenith(1000.0);
+    EXPECT_NEAR(incidence_sun(e, -PI / 2, 0), PI, 1e-7);
+    EXPECT_EQ(solar_flux_direct(e, -PI / 2, 0), 0.0);
+    EXPECT_EQ(cell_flux(e, -PI / 2, 0), 0.0);
+}
+
+TEST(Flux, EclipseRemovesTheSunButNotTheEarth) {
+    Etat e = etat_soleil_zenith(1000.0);
+    e.pwr.eclipse = VRAI;
+    e.pwr.flux_alb = 200;
+    e.pwr.flux_ir = 240;
+    EXPECT_EQ(solar_flux_direct(e, PI / 2, 0), 0.0);
+    // The bottom face looks at nadir: the cells take the albedo at full cosine,
+    // the thermal side takes it times the view factor at 0 deg (F0 = 0.825624
+    // at r = 7000 km: rho = asin(6378.137/7000) = 1.144893).
+    EXPECT_NEAR(cell_flux(e, -PI / 2, 0), 200.0, 1e-9);
+    EXPECT_NEAR(albedo_flux(e, -PI / 2, 0), 200.0 * 0.8256243963, 1e-7);
+    EXPECT_NEAR(earth_ir_flux(e, -PI / 2, 0), 240.0 * 0.8256243963, 1e-7);
+    EXPECT_NEAR(solar_albedo_flux(e, -PI / 2, 0), 200.0 * 0.8256243963, 1e-7);
+}
+
+TEST(Flux, SunAtSixtyDegreesOnALateralFace) {
+    Etat e = etat_soleil_zenith(1000.0);
+    essai::pose_soleil(e.pwr, 30 * DEG_RAD, 0);  // 30 deg from the face (0, 0)
+    EXPECT_NEAR(solar_flux_direct(e, 0, 0), 1000 * std::cos(30 * DEG_RAD), 1e-7);
+    essai::pose_soleil(e.pwr, 60 * DEG_RAD, 0);  // 60 deg from it
+    EXPECT_NEAR(incidence_sun(e, 0, 0), 60 * DEG_RAD, 1e-9);
+    EXPECT_NEAR(solar_flux_direct(e, 0, 0), 500.0, 1e-7);
+    // Beyond inc_div the cells follow the parabola: 0.459722 at 60 deg.
+    EXPECT_NEAR(cell_flux(e, 0, 0), 459.7216056, 1e-6);
+}
+
+TEST(EarthViewFactor, FormulaOnBothSidesOfNinetyAndTheCut) {
+    Etat e = etat_soleil_zenith();
+    // r = 7000 km, h = 621.863 km, L = ln h = 6.432720, F0 = 0.825624
+    EXPECT_NEAR(earth_view_factor(e, 0), 0.8256243963, 1e-9);
+    EXPECT_NEAR(e.pwr.earth_half, std::asin(6378.137 / 7000.0), 1e-12);
+    EXPECT_NEAR(earth_view_factor(e, 60), 0.4355412616, 1e-9);
+    // A normal turned away from the Earth still gets some infrared.
+    EXPECT_NEAR(earth_view_factor(e, 120), 0.0664021061, 1e-9);
+    // F falls through 0.001 between 149 deg (0.001097) and 150 deg (0.000626).
+    EXPECT_NEAR(earth_view_factor(e, 149), 0.0010971026, 1e-9);
+    EXPECT_EQ(earth_view_factor(e, 150), 0.0);
+    // The fit rises again towards 180 deg: 0.0416934 straight behind.
+    EXPECT_NEAR(earth_view_factor(e, 180), 0.0416929840, 1e-9);
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,144 @@
+// Target of the external panels and their servo.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/power/flux.h"
+#include "core/power/panneau.h"
+#include "outils_power.h"
+
+namespace kestrel {
+namespace {
+
+using essai::pose_nadir;
+using essai::pose_soleil;
+
+// Sun at 30 deg elevation behind the panel's azimuth pi, Earth at -60 deg.
+Etat geometrie_panneau() {
+    Etat e = essai::etat_soleil_zenith(1360.0);
+    pose_soleil(e.pwr, 30 * DEG_RAD, PI);
+    pose_nadir(e.pwr, -60 * DEG_RAD, PI);
+    return e;
+}
+
+TEST(PanelTarget, SunlitWithoutAlbedoFacesTheSun) {
+    Etat e = geometrie_panneau();
+    panel_target_update(e);
+    // atan(sin 30 / (cos 30 * cos 0)) = 30 deg
+    EXPECT_NEAR(e.pwr.pan_target, 30 * DEG_RAD, 1e-12);
+}
+
+TEST(PanelTarget, EclipseWithAlbedoFollowsTheEarth) {
+    Etat e = geometrie_panneau();
+    e.pwr.eclipse = VRAI;
+    e.pwr.flux_alb = 300;
+    panel_target_update(e);
+    // k = 0: atan(nad_z / nad_sxy) = -60 deg, the panel looks at nadir.
+    EXPECT_NEAR(e.pwr.pan_target, -60 * DEG_RAD, 1e-12);
+}
+
+TEST(PanelTarget, EclipseWithoutAlbedoHasNoTarget) {
+    Etat e = geometrie_panneau();
+    e.pwr.eclipse = VRAI;
+    e.pwr.pan_angle = 0.3;
+    panel_target_update(e);
+    EXPECT_EQ(e.pwr.pan_target, PAS_DE_CIBLE);
+    // With no target the panel stays where it is.
+    panel_drive_update(e, 60);
+    EXPECT_EQ(e.pwr.pan_angle, 0.3);
+}
+
+TEST(PanelTarget, FlipsWhenTheRearWouldSeeMore) {
+    Etat e = geometrie_panneau();
+    // Sun at 30 deg elevation on the azimuth 0 side: the closed form gives
+    // atan(0.5 / (0.866 * cos(-pi))) = -30 deg, whose front faces away;
+    // the flip subtracts sign(-30 deg) * pi: 150 deg.
+    pose_soleil(e.pwr, 30 * DEG_RAD, 0);
+    panel_target_update(e);
+    EXPECT_NEAR(e.pwr.pan_target, -30 * DEG_RAD + PI, 1e-12);
+}
+
+TEST(PanelTarget, NegativeAlbedoKeepsThePreviousTarget) {
+    Etat e = geometrie_panneau();
+    e.pwr.flux_alb = -1;
+    e.pwr.pan_target = 0.42;
+    panel_target_update(e);
+    EXPECT_EQ(e.pwr.pan_target, 0.42);
+}
+
+TEST(PanelTarget, RefinedFallsBackOrFindsAZeroOfTheSlope) {
+    Etat e = geometrie_panneau();
+    EXPECT_NEAR(panel_target_refined(e), 30 * DEG_RAD, 1e-12);  // no albedo: closed form
+    // Earth at -40 deg: near the optimum it stands 59 deg off the panel, on
+    // the parabola of the cell law, where the closed form is no longer exact.
+    pose_nadir(e.pwr, -40 * DEG_RAD, PI);
+    e.pwr.flux_alb = 300;
+    const double a = panel_target_refined(e);
+    EXPECT_NE(a, e.pwr.pan_target);
+    EXPECT_FALSE(e.faute);
+    // At the optimum the cell flux is flat: f(a +- h) no higher than f(a).
+    const double h = 1e-3;
+    EXPECT_LE(cell_flux(e, a + h, PI), cell_flux(e, a, PI) + 1e-6);
+    EXPECT_LE(cell_flux(e, a - h, PI), cell_flux(e, a, PI) + 1e-6);
+    // Between the Earth (-40 deg) and the Sun (30 deg).
+    EXPECT_GT(a, -40 * DEG_RAD);
+    EXPECT_LT(a, 30 * DEG_RAD);
+}
+
+// Servo: 0 -> 10 deg, delay 150 s, steps of 60 s, 0.1 deg/s, dead band 0.5 deg.
+TEST(PanelDrive, DelayLongerThanAStepThenWholeSteps) {
+    Etat e;
+    PowerRecord& p = e.pwr;
+    p.pan_fixed = FAUX;
+    p.pan_delay = 150;
+    p.pan_speed = 0.1f;
+    p.pan_tolerance = 0.5f;
+    p.pan_angle = 0;
+    p.pan_wait = -1;
+    p.pan_moving = FAUX;
+    p.pan_target = 10 * DEG_RAD;
+    // wait 150 -> 90 -> 30 -> -30: n = 0, 0, 0 (clamped), then 30 s at 0.1 deg/s;
+    // then n = 60 - (-30) = 90 -> 60 s: +6 deg; then the last degree.
+    const double attendu[6] = {0, 0, 0, 3, 9, 10};
+    const int attente[6] = {150, 90, 30, -30, -1, -1};
+    for (int k = 0; k < 6; ++k) {
+        panel_drive_update(e, 60);
+        EXPECT_NEAR(p.pan_angle, attendu[k] * DEG_RAD, 1e-6) << "step " << k;
+        EXPECT_EQ(p.pan_wait, attente[k]) << "step " << k;
+    }
+    EXPECT_EQ(p.pan_moving, FAUX);
+    EXPECT_EQ(p.pan_angle, p.pan_target);
+}
+
+TEST(PanelDrive, FixedPanelsAndTheDeadBand) {
+    Etat e;
+    PowerRecord& p = e.pwr;
+    p.pan_wait = -1;
+    p.pan_target = 0.2;
+    p.pan_fixed = VRAI;
+    panel_drive_update(e, 60);
+    EXPECT_EQ(p.pan_angle, 0.0);
+    p.pan_fixed = FAUX;
+    p.pan_target = 0.3 * DEG_RAD;  // inside the 0.5 deg band: no move
+    panel_drive_update(e, 60);
+    EXPECT_EQ(p.pan_angle, 0.0);
+}
+
+TEST(PanelDrive, ShortWayRoundAndWrapPastPi) {
+    Etat e;
+    PowerRecord& p = e.pwr;
+    p.pan_fixed = FAUX;
+    p.pan_delay = 0;
+    p.pan_speed = 1.0f;
+    p.pan_wait = -1;
+    p.pan_angle = 3.0;
+    p.pan_target = -3.0;
+    // delta = -6 is beyond pi: sense +1, 60 deg in 60 s (1.047 rad, below the
+    // enlarged |delta| 12.28), 3 + 1.047 = 4.047 then minus 2 pi.
+    panel_drive_update(e, 60);
+    EXPECT_NEAR(p.pan_angle, 3.0 + 60 * DEG_RAD - 2 * PI, 1e-12);
+    EXPECT_EQ(p.pan_moving, VRAI);
+}
+
+}  // namespace
+}  // namespace kestrel

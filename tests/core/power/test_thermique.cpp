@@ -1,0 +1,181 @@
+// The three thermal models against one Euler pass integrated by hand, the
+// cylinder's sub-steps, and the ageing of absorptivity.
+#include <gtest/gtest.h>
+
+#include "core/power/thermique.h"
+#include "outils_power.h"
+
+namespace kestrel {
+namespace {
+
+// The absorptivities are single precision (0.2f = 0.2 + 3e-9): 2e-9 K on a pass.
+constexpr double TOL_K = 1e-8;
+constexpr double T_CHAUD = 300.0, T_INT = 290.0, T_FROID = 280.0;
+
+// Everything but the top surface (absorptivity 0.2 when new, emissivity 0.5,
+// conduction 2 W/m²/K and radiative coupling 0.1 to the internal node, 2 kg/m²,
+// 800 J/kg/K) is cut off; the internal node is 10 kg at 500 J/kg/K with 30 W.
+Etat deux_noeuds_faces(int opt_faces) {
+    Etat e = essai::etat_soleil_zenith(1000.0);
+    e.session.j_courant = e.pwr.date_cell;  // new coatings: alpha = alpha0
+    e.session.pas_sim = 1;
+    PowerRecord& p = e.pwr;
+    essai::pose_faces(p, opt_faces);
+    p.body_width = 0.5f;
+    p.fac_alpha0 = {0.3f, 0.2f, 0.3f};
+    p.fac_alpha_lim = {0.5f, 0.4f, 0.5f};
+    p.fac_eps = {0, 0.5f, 0};
+    p.fac_cond = {0, 2, 0};
+    p.fac_rad = {0, 0.1f, 0};
+    p.fac_mass = {5, 2, 5};
+    p.fac_cp = {800, 800, 800};
+    p.cyl_cond = 0;
+    p.int_mass = 10;
+    p.int_cp = 500;
+    p.p_heat = 30;
+    p.node_t.fill(T_FROID);
+    return e;
+}
+
+TEST(Alpha, NewAtDateCellAndNinetyNinePercentAtT99) {
+    PowerRecord p;
+    EXPECT_NEAR(alpha(p, static_cast<float>(p.date_cell), 0.2f, 0.4f, 1000), 0.2, 1e-7);
+    // t99 = 1200 h = 50 days later: alim (1 - 0.01) = 0.396
+    EXPECT_NEAR(alpha(p, static_cast<float>(p.date_cell + 50), 0.2f, 0.4f, 1200), 0.396, 1e-7);
+}
+
+TEST(ThermalFaces, OnePassMatchesHandEuler) {
+    Etat e = deux_noeuds_faces(0);
+    auto& T = e.pwr.node_t;
+    T[8] = T_CHAUD;
+    T[10] = T_INT;
+    thermal_faces(e);
+    // top: (0.2*1000 - 0.5 s 300^4 + (290-300)*2 + s 0.1 (290^4-300^4)) / 1600
+    //      = (200 - 229.635 - 20 - 5.8241673) / 1600 = -0.0346620
+    EXPECT_NEAR(T[8], 299.9653380204, TOL_K);
+    // internal, lid 0.25 m²: (30 + 20*0.25 + 0.25*5.8241673) / 5000 = 0.0072912
+    EXPECT_NEAR(T[10], 290.0072912084, 1e-9);
+    for (int i : {0, 1, 2, 3, 9}) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
+    EXPECT_EQ(e.pwr.t_bat, 20.0);  // the battery does not follow the node here
+}
+
+TEST(ThermalFaces, HexagonalLidArea) {
+    Etat e = deux_noeuds_faces(1);
+    auto& T = e.pwr.node_t;
+    T[8] = T_CHAUD;
+    T[10] = T_INT;
+    thermal_faces(e);
+    // lid = (6 * 0.25 / 4) / tan(pi/6) = 0.649519 m²:
+    // (30 + (20 + 5.8241673) * 0.649519) / 5000 = 0.0093549
+    const double lid = (6 * 0.25 / 4) / std::tan(PI / 6);
+    EXPECT_NEAR(T[10] - T_INT, (30 + (20 + 5.8241673) * lid) / 5000, 1e-8);
+}
+
+TEST(ThermalCylinder, OnePassMatchesHandEuler) {
+    Etat e = deux_noeuds_faces(2);
+    auto& T = e.pwr.node_t;
+    T[36] = T_CHAUD;
+    T[38] = T_INT;
+    thermal_cylinder(e);
+    // top as the prism's; internal with disc = pi 0.5^2 / 4 = 0.196350 m²:
+    // (30 + 20*0.19635 + 0.19635*5.8241673) / 5000 = 0.0070141
+    EXPECT_NEAR(T[36], 299.9653380204, TOL_K);
+    EXPECT_NEAR(T[38], 290.0070141127, 1e-9);
+    EXPECT_NEAR(e.pwr.t_bat, 290.0070141127 - 273.15, 1e-9);
+    for (int i = 0; i < 36; ++i) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
+}
+
+TEST(ThermalCylinder, WallConductionBetweenNeighbours) {
+    Etat e = deux_noeuds_faces(2);
+    e.pwr.cyl_cond = 0.5f;
+    e.pwr.p_heat = 0;
+    auto& T = e.pwr.node_t;
+    T.fill(T_FROID);
+    T[0] = T_CHAUD;
+    thermal_cylinder(e);
+    // strip width 0.5 * 0.174533 = 0.0872665 m; strip 0 loses
+    // (2*300 - 280 - 280) * 0.5 / 0.0872665 = 229.183 W/m² over 5 * 800.
+    EXPECT_NEAR(T[0], T_CHAUD - 229.1831181 / 4000, 1e-7);
+    // its neighbours 35 and 1 gain half of it each.
+    EXPECT_NEAR(T[35], T_FROID + 114.5915590 / 4000, 1e-7);
+    EXPECT_NEAR(T[1], T_FROID + 114.5915590 / 4000, 1e-7);
+    EXPECT_NEAR(T[2], T_FROID, 1e-12);
+}
+
+// The internal node alone, heated by 800 W at 800 J/K: one kelvin per
+// simulated second, so the rise counts the seconds really integrated.
+TEST(ThermalCylinder, PassCountsAndDroppedSeconds) {
+    struct Cas {
+        int pas, k, passes;
+        double secondes;
+    };
+    const Cas cas[] = {{1, 1, 1, 1}, {300, 1, 300, 300}, {450, 1, 450, 450},
+                       {600, 2, 300, 600}, {601, 2, 300, 600}, {1000, 3, 333, 999}};
+    for (const Cas& c : cas) {
+        int k = 0;
+        EXPECT_EQ(passes_cylindre(c.pas, k), c.passes) << c.pas;
+        EXPECT_EQ(k, c.k) << c.pas;
+        Etat e = deux_noeuds_faces(2);
+        e.pwr.fac_eps[1] = 0;
+        e.pwr.fac_cond = {0, 0, 0};
+        e.pwr.fac_rad = {0, 0, 0};
+        e.pwr.int_mass = 1;
+        e.pwr.int_cp = 800;
+        e.pwr.p_heat = 800;
+        e.pwr.eclipse = VRAI;
+        e.session.pas_sim = c.pas;
+        thermal_cylinder(e);
+        EXPECT_NEAR(e.pwr.node_t[38] - T_FROID, c.secondes, 1e-9) << c.pas;
+    }
+}
+
+TEST(ThermalExtPanels, OnePassMatchesHandEuler) {
+    Etat e = essai::etat_soleil_zenith(1000.0);
+    e.session.j_courant = e.pwr.date_cell;
+    e.session.pas_sim = 1;
+    PowerRecord& p = e.pwr;
+    p.pan_angle = PI / 2;  // front to +z, facing the Sun
+    p.ext_alpha0 = {0.8f, 0.1f, 0.3f, 0.3f, 0.3f, 0.3f, 0.3f, 0.3f};
+    p.ext_alpha_lim = {0.9f, 0.2f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f, 0.5f};
+    p.ext_eps = {0.8f, 0.9f, 0, 0, 0, 0, 0.6f, 0};
+    p.ext_cond = {0, 0, 0, 0, 2, 0};
+    p.ext_rad = {0, 0, 0, 0, 0.1f, 0};
+    p.ext_mass = {10, 0, 5, 5, 5, 5, 5, 5, 20};
+    p.ext_cp = {900, 0, 800, 800, 800, 800, 800, 800, 600};
+    p.ext_area = 0.5f;
+    p.body_face_area = 0.3f;
+    p.pan_power[0] = 50;
+    p.p_heat = 30;
+    auto& T = p.node_t;
+    T.fill(T_FROID);
+    T[0] = 320;
+    T[6] = T_CHAUD;
+    T[8] = T_INT;
+    T[1] = -1;  // no temperature of its own: left alone
+    thermal_ext_panels(e);
+    // panel: (0.8*1000 - 0.8 s 320^4 - 0.9 s 320^4 - 50/0.5) / 9000 = -0.0345247
+    EXPECT_NEAR(T[0], 319.9654752882, TOL_K);
+    // top face: (0.3*1000 - 0.6 s 300^4 - 20 - 5.8241673) / 4000 = -0.0003465
+    EXPECT_NEAR(T[6], 299.9996534582, TOL_K);
+    // internal: (0.3 * (20 + 5.8241673) + 30) / 12000 = 0.0031456
+    EXPECT_NEAR(T[8], 290.0031456042, 1e-9);
+    EXPECT_NEAR(p.t_bat, 290.0031456042 - 273.15, 1e-9);
+    EXPECT_EQ(T[1], -1);
+    for (int i : {2, 3, 4, 5, 7}) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
+}
+
+TEST(Thermal, ZeroStepLeavesTemperaturesUnchanged) {
+    for (int cas = 0; cas < 3; ++cas) {
+        Etat e = deux_noeuds_faces(cas == 2 ? 2 : 0);
+        e.session.pas_sim = 0;
+        for (int i = 0; i < 39; ++i) e.pwr.node_t[i] = 250.0 + i;
+        const auto avant = e.pwr.node_t;
+        if (cas == 0) thermal_ext_panels(e);
+        if (cas == 1) thermal_faces(e);
+        if (cas == 2) thermal_cylinder(e);
+        EXPECT_EQ(e.pwr.node_t, avant) << cas;
+    }
+}
+
+}  // namespace
+}  // namespace kestrel
