@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStringList>
 
 namespace kestrel::gui {
@@ -31,12 +32,18 @@ QString DialoguesQt::enregistrer(QWidget* parent, const DemandeFichier& d) {
 }
 
 Reponse DialoguesQt::question(QWidget* parent, const QString& titre, const QString& texte) {
-    const auto r = QMessageBox::question(parent, titre, texte,
-                                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                                         QMessageBox::Yes);
+    QMessageBox box(QMessageBox::Question, titre, texte,
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent);
+    // The words of the buttons stay French even without Qt's translations.
+    box.button(QMessageBox::Yes)->setText(QStringLiteral("&Oui"));
+    box.button(QMessageBox::No)->setText(QStringLiteral("&Non"));
+    box.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuler"));
+    box.setDefaultButton(QMessageBox::Yes);
+    box.exec();
+    const auto r = box.standardButton(box.clickedButton());
     if (r == QMessageBox::Yes) return Reponse::oui;
     if (r == QMessageBox::No) return Reponse::non;
-    return Reponse::annuler;
+    return Reponse::annuler;  // Escape or the window's close button too
 }
 
 void DialoguesQt::message(QWidget* parent, const QString& texte, Icone icone) {
