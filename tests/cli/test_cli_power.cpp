@@ -1,0 +1,102 @@
+// kestrel power on the built binary: the CSV header and one row per date, the
+// summary, the cells' date check and the option checks.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Resultat {
+    int code = -1;
+    std::string out, err;
+};
+
+std::string lit(const fs::path& p) {
+    std::ifstream f(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
+}
+
+Resultat lance_power(const std::string& args) {
+    const fs::path out = fs::temp_directory_path() / "kestrel_cli_power_out.txt";
+    const fs::path err = fs::temp_directory_path() / "kestrel_cli_power_err.txt";
+    const std::string cmd = std::string("\"") + KESTREL_EXE + "\" power " + args + " > \"" + out.string() +
+                            "\" 2> \"" + err.string() + "\"";
+    const int s = std::system(cmd.c_str());
+    Resultat r;
+    r.code = WIFEXITED(s) ? WEXITSTATUS(s) : -1;
+    r.out = lit(out);
+    r.err = lit(err);
+    return r;
+}
+
+std::vector<std::string> lignes(const std::string& texte) {
+    std::vector<std::string> v;
+    std::istringstream f(texte);
+    for (std::string l; std::getline(f, l);) v.push_back(l);
+    return v;
+}
+
+std::vector<std::string> champs(const std::string& ligne) {
+    std::vector<std::string> v;
+    std::istringstream f(ligne);
+    for (std::string c; std::getline(f, c, ',');) v.push_back(c);
+    return v;
+}
+
+TEST(CliPower, HeaderAndOneRowPerDate) {
+    // One hour at 600 s: dates at 0, 600, ..., 3600 s: 7 rows.
+    const Resultat r = lance_power("--start 18707.55001 --end 18707.591676666667 --step 600");
+    ASSERT_EQ(r.code, 0) << r.err;
+    const auto l = lignes(r.out);
+    ASSERT_EQ(l.size(), 1u + 7u);
+    const auto entete = champs(l[0]);
+    // 22 scalar columns, 39 nodes, 36 panel powers, 36 efficiencies
+    ASSERT_EQ(entete.size(), 22u + 39u + 36u + 36u);
+    EXPECT_EQ(entete[0], "date");
+    EXPECT_EQ(entete[1], "eclipse");
+    EXPECT_EQ(entete[7], "gen_power");
+    EXPECT_EQ(entete[21], "t_discharge");
+    EXPECT_EQ(entete[22], "node_t_0");
+    EXPECT_EQ(entete[60], "node_t_38");
+    EXPECT_EQ(entete[61], "pan_power_0");
+    EXPECT_EQ(entete[97], "cell_eff_0");
+    EXPECT_EQ(entete.back(), "cell_eff_35");
+    for (std::size_t i = 1; i < l.size(); ++i) EXPECT_EQ(champs(l[i]).size(), entete.size()) << i;
+    EXPECT_EQ(champs(l[1])[0], "18707.550009999999");  // 17 significant digits
+    // The new project gives no generator power: 600 s of discharge a step, 1200 s at the second.
+    EXPECT_EQ(champs(l[2])[21], "1200");
+}
+
+TEST(CliPower, SummaryOfTheExampleWithExternalPanels) {
+    const Resultat r = lance_power("--pwr \"" KESTREL_SOURCE_DIR "/examples/panneaux_externes.pwr\" --summary");
+    ASSERT_EQ(r.code, 0) << r.err;
+    EXPECT_NE(r.out.find("Fraction en éclipse"), std::string::npos) << r.out;
+    EXPECT_NE(r.out.find("Puissance générateur"), std::string::npos) << r.out;
+    EXPECT_EQ(r.out.find("date,"), std::string::npos);
+}
+
+TEST(CliPower, StartNotAfterTheCellsDateIsRefused) {
+    // "Date initiale cellules" of a new project: day 17897
+    const Resultat r = lance_power("--start 17897 --end 17898");
+    EXPECT_EQ(r.code, 1);
+    EXPECT_NE(r.err.find("Attention, la date initiale des panneaux (données thermiques) est postérieure à la "
+                         "date courante"),
+              std::string::npos)
+        << r.err;
+    EXPECT_TRUE(r.out.empty());
+}
+
+TEST(CliPower, BadPointingIsAnArgumentError) {
+    EXPECT_EQ(lance_power("--pointing 1,2").code, 2);
+    EXPECT_EQ(lance_power("--spin abc").code, 2);
+}
+
+}  // namespace
