@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "core/etat.h"
+#include "core/project/projet.h"
+
 namespace {
 
 const char* const ENTETE =
@@ -103,4 +106,25 @@ TEST(CliOrbit, ArgumentsRefuses) {
         EXPECT_FALSE(r.erreurs.empty()) << a;
         EXPECT_EQ(r.erreurs.find('\n'), r.erreurs.size() - 1) << a << ": " << r.erreurs;  // one line
     }
+}
+
+TEST(CliOrbit, FauteArreteLaMarcheLignesGardees) {
+    // a = 7000 km, e = 0.1: perigee 6300 km, inside the 6428 km shadow radius.
+    // Starting at the apogee (anomaly 180), the rows before the perigee are
+    // written, then the run stops with the French message and exit 1.
+    kestrel::Etat e;
+    e.orbite.orb_demi = 7000.0;
+    e.orbite.orb_excentricite = 0.1;
+    e.orbite.orb_anomalie = 180.0;
+    const auto chemin =
+        std::filesystem::temp_directory_path() / ("kestrel_orbit_" + std::to_string(::getpid()) + ".orb");
+    ASSERT_FALSE(kestrel::sauve_orbite(e, chemin.string()));
+    const Resultat r = lance_orbit("--orb \"" + chemin.string() + "\"");
+    std::filesystem::remove(chemin);
+    EXPECT_EQ(r.code, 1);
+    EXPECT_NE(r.erreurs.find("rayon d'ombre de 6428 km"), std::string::npos) << r.erreurs;
+    ASSERT_GT(r.lignes.size(), 2u);
+    EXPECT_LT(r.lignes.size(), 1u + 49u);
+    EXPECT_EQ(r.lignes[0], ENTETE);
+    for (size_t k = 1; k < r.lignes.size(); ++k) EXPECT_EQ(champs(r.lignes[k]).size(), 15u);
 }
