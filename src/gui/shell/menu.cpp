@@ -420,12 +420,18 @@ void menu::titre_attitude(const QString& chemin) {
     fra_attitude_->setTitle(u("Contrôle d'attitude (") + nom_projet(chemin.toStdString()) + u(")"));
 }
 
+// Dialog of a project command: the kind's title and filter, dossier_depart,
+// and the current project's name proposed (empty for a new project).
+DemandeFichier menu::demande(const char* titre, const char* filtre, const std::string& actuel,
+                             const char* extension) const {
+    return {u(titre), filtre_qt(u(filtre)), dossier_depart(),
+            actuel.empty() ? QString() : nom_projet(actuel), u(extension)};
+}
+
 void menu::montre_erreur(const QString& texte) { dialogues_.message(this, texte, Icone::critique); }
 
 void menu::ouvre_energie() {
-    const std::string& actuel = etat_.session.chemin_energie;
-    const DemandeFichier d{u(titre_ouvrir_pwr), filtre_qt(u(filtre_pwr)), dossier_depart(),
-                           actuel.empty() ? QString() : nom_projet(actuel), QStringLiteral("pwr")};
+    const DemandeFichier d = demande(titre_ouvrir_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
     const QString chemin = dialogues_.ouvrir(this, d);
     QDir::setCurrent(dossier_depart());
     if (chemin.isEmpty()) return;
@@ -450,9 +456,7 @@ bool menu::enregistre_energie() {
 }
 
 bool menu::enregistre_energie_sous() {
-    const std::string& actuel = etat_.session.chemin_energie;
-    const DemandeFichier d{u(titre_sauver_pwr), filtre_qt(u(filtre_pwr)), dossier_depart(),
-                           actuel.empty() ? QString() : nom_projet(actuel), QStringLiteral("pwr")};
+    const DemandeFichier d = demande(titre_sauver_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
     const QString chemin = dialogues_.enregistrer(this, d);
     QDir::setCurrent(dossier_depart());
     if (chemin.isEmpty()) return false;
@@ -467,9 +471,7 @@ bool menu::enregistre_energie_sous() {
 }
 
 void menu::ouvre_attitude() {
-    const std::string& actuel = etat_.session.chemin_attitude;
-    const DemandeFichier d{u(titre_ouvrir_att), filtre_qt(u(filtre_att)), dossier_depart(),
-                           actuel.empty() ? QString() : nom_projet(actuel), QStringLiteral("att")};
+    const DemandeFichier d = demande(titre_ouvrir_att, filtre_att, etat_.session.chemin_attitude, "att");
     const QString chemin = dialogues_.ouvrir(this, d);
     QDir::setCurrent(dossier_depart());
     if (chemin.isEmpty()) return;
@@ -492,9 +494,7 @@ bool menu::enregistre_attitude() {
 }
 
 bool menu::enregistre_attitude_sous() {
-    const std::string& actuel = etat_.session.chemin_attitude;
-    const DemandeFichier d{u(titre_sauver_att), filtre_qt(u(filtre_att)), dossier_depart(),
-                           actuel.empty() ? QString() : nom_projet(actuel), QStringLiteral("att")};
+    const DemandeFichier d = demande(titre_sauver_att, filtre_att, etat_.session.chemin_attitude, "att");
     const QString chemin = dialogues_.enregistrer(this, d);
     QDir::setCurrent(dossier_depart());
     if (chemin.isEmpty()) return false;

@@ -7,6 +7,9 @@
 #include <QString>
 #include <functional>
 
+#include <string>
+
+#include "shell/dialogues.h"
 #include "shell/registre.h"
 
 class QAction;
@@ -23,8 +26,6 @@ struct Etat;
 }
 
 namespace kestrel::gui {
-
-class Dialogues;
 
 class menu : public QMainWindow {
     Q_OBJECT
@@ -73,6 +74,8 @@ private:
     bool accepte_fin();
     // Folders, titles and the common end of a successful open or save.
     QString dossier_depart() const;
+    DemandeFichier demande(const char* titre, const char* filtre, const std::string& actuel,
+                           const char* extension) const;
     void titre_energie(const QString& chemin);
     void titre_attitude(const QString& chemin);
     void montre_erreur(const QString& texte);
