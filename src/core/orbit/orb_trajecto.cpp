@@ -73,6 +73,7 @@ double ascension_1950(const Orbite& o, double om) {
     return r;
 }
 
+// Called on its own it has no date: a fault is dated with the step in progress.
 void orb_cartesien(Etat& etat, double a, double e, double i, double w, double om, double& m) {
     cartesien(etat, etat.session.j_courant, a, e, i, w, om, m);
 }
