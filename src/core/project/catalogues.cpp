@@ -4,30 +4,35 @@
 
 namespace kestrel {
 
+namespace {
+
+struct Cellule {
+    float isc, imp, voc, vmp;      // A, A, V, V at the reference temperature
+    float disc, dimp, dvoc, dvmp;  // their slopes per °C
+    float surface;                 // cm²
+    float rendement;               // stored efficiency
+};
+
+constexpr Cellule ASGA{0.53f, 0.5f, 1.0f, 0.86f, 0.0003f, 0.00025f, -0.002f, -0.002f, 16.0f,
+                       4300.0f / 1368.0f / 16.0f};
+constexpr Cellule SILICIUM{1.0f, 0.95f, 0.54f, 0.45f, 0.0012f, 0.0009f, -0.002f, -0.002f, 20.0f,
+                           4275.0f / 1368.0f / 20.0f};
+
+}  // namespace
+
 void catalogue_cellules(PowerRecord& p, int type) {
-    if (type == 0) {  // AsGa
-        p.cel_isc = 0.53f;
-        p.cel_imp = 0.5f;
-        p.cel_voc = 1.0f;
-        p.cel_vmp = 0.86f;
-        p.cel_disc = 0.0003f;
-        p.cel_dimp = 0.00025f;
-        p.cel_dvoc = -0.002f;
-        p.cel_dvmp = -0.002f;
-        p.cel_surface = 16.0f;
-        p.cel_rendement = 4300.0f / 1368.0f / 16.0f;
-    } else if (type == 1) {  // Silicium
-        p.cel_isc = 1.0f;
-        p.cel_imp = 0.95f;
-        p.cel_voc = 0.54f;
-        p.cel_vmp = 0.45f;
-        p.cel_disc = 0.0012f;
-        p.cel_dimp = 0.0009f;
-        p.cel_dvoc = -0.002f;
-        p.cel_dvmp = -0.002f;
-        p.cel_surface = 20.0f;
-        p.cel_rendement = 4275.0f / 1368.0f / 20.0f;
-    }
+    const Cellule* c = type == 0 ? &ASGA : (type == 1 ? &SILICIUM : nullptr);
+    if (!c) return;
+    p.cel_isc = c->isc;
+    p.cel_imp = c->imp;
+    p.cel_voc = c->voc;
+    p.cel_vmp = c->vmp;
+    p.cel_disc = c->disc;
+    p.cel_dimp = c->dimp;
+    p.cel_dvoc = c->dvoc;
+    p.cel_dvmp = c->dvmp;
+    p.cel_surface = c->surface;
+    p.cel_rendement = c->rendement;
 }
 
 namespace {

@@ -79,29 +79,47 @@ Erreur erreur_systeme(CodeErreur code, const std::string& chemin) {
     return e;
 }
 
-}  // namespace
-
-Erreur sauve_attitude(const Etat& etat, const std::string& chemin) {
-    std::vector<unsigned char> o(TAILLE_ATTITUDE, 0);
+// The record through its layout into a zeroed block of n bytes, then to disk.
+template <class R, class Champs>
+Erreur ecrit_enregistrement(const R& r, Champs champs, std::size_t n, CodeErreur code,
+                            const std::string& chemin) {
+    std::vector<unsigned char> o(n, 0);
     Encodeur enc{o};
-    champs_attitude(enc, etat.att);
+    champs(enc, r);
     errno = 0;
-    if (!ecrit_debut(chemin, o)) return erreur_systeme(CodeErreur::ecriture_attitude, chemin);
+    if (!ecrit_debut(chemin, o)) return erreur_systeme(code, chemin);
     return {};
 }
 
-Erreur charge_attitude(Etat& etat, const std::string& chemin) {
+// Read into a copy of r, handed over only when the file could be read.
+template <class R, class Champs>
+bool lit_enregistrement(R& r, Champs champs, std::size_t n, const std::string& chemin) {
     std::vector<unsigned char> o;
-    if (!lit_debut(chemin, o, TAILLE_ATTITUDE)) {
+    if (!lit_debut(chemin, o, n)) return false;
+    R copie = r;
+    Decodeur dec{o};
+    champs(dec, copie);
+    r = copie;
+    return true;
+}
+
+const auto disposition_attitude = [](auto& v, auto& r) { champs_attitude(v, r); };
+const auto disposition_orbite = [](auto& v, auto& r) { champs_orbite(v, r); };
+
+}  // namespace
+
+Erreur sauve_attitude(const Etat& etat, const std::string& chemin) {
+    return ecrit_enregistrement(etat.att, disposition_attitude, TAILLE_ATTITUDE, CodeErreur::ecriture_attitude,
+                                chemin);
+}
+
+Erreur charge_attitude(Etat& etat, const std::string& chemin) {
+    if (!lit_enregistrement(etat.att, disposition_attitude, TAILLE_ATTITUDE, chemin)) {
         Erreur e;
         e.code = CodeErreur::lecture_attitude;
         e.detail = chemin;
         return e;
     }
-    AttitudeRecord a = etat.att;
-    Decodeur dec{o};
-    champs_attitude(dec, a);
-    etat.att = a;
     // Only the face table is rebuilt: Mt, I, cm_total and the run states
     // stay as the file held them.
     faces_recalcul(etat.att);
@@ -109,25 +127,15 @@ Erreur charge_attitude(Etat& etat, const std::string& chemin) {
 }
 
 Erreur sauve_orbite(const Etat& etat, const std::string& chemin) {
-    std::vector<unsigned char> o(CASE_ORBITE, 0);
-    Encodeur enc{o};
-    champs_orbite(enc, etat.orbite);
-    errno = 0;
-    if (!ecrit_debut(chemin, o)) return erreur_systeme(CodeErreur::fichier_orbite, chemin);
-    return {};
+    return ecrit_enregistrement(etat.orbite, disposition_orbite, CASE_ORBITE, CodeErreur::fichier_orbite, chemin);
 }
 
 Erreur charge_orbite(Etat& etat, const std::string& chemin) {
-    std::vector<unsigned char> o;
     errno = 0;
-    if (!lit_debut(chemin, o, TAILLE_ORBITE)) {
+    if (!lit_enregistrement(etat.orbite, disposition_orbite, TAILLE_ORBITE, chemin)) {
         if (errno == 0) errno = ENOENT;
         return erreur_systeme(CodeErreur::fichier_orbite, chemin);
     }
-    Orbite r = etat.orbite;
-    Decodeur dec{o};
-    champs_orbite(dec, r);
-    etat.orbite = r;
     return {};
 }
 

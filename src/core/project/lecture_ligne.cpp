@@ -123,12 +123,19 @@ bool LecteurLignes::lecture_ligne() {
 }
 
 template <class T>
-bool LecteurLignes::entier(T& v, double min, double max) {
-    Jeton j;
+bool LecteurLignes::nombre(T& x, Jeton& j) {
     if (!lit_jeton(j)) return false;
     if (j.commentaire) return true;
-    double x;
     if (!convertit(quatorze(j.texte), x)) return echec_jeton(j);
+    return true;
+}
+
+template <class T>
+bool LecteurLignes::entier(T& v, double min, double max) {
+    Jeton j;
+    double x = 0;
+    if (!nombre(x, j)) return false;
+    if (j.commentaire) return true;
     // A real in an integer line rounds to the nearest, ties to even.
     x = std::nearbyint(x);
     if (x < min || x > max) return echec_jeton(j);
@@ -143,28 +150,20 @@ bool LecteurLignes::lecture_ligne_octet(int16_t& v) { return entier(v, 0.0, 255.
 
 bool LecteurLignes::lecture_ligne_booleen(int16_t& v) {
     Jeton j;
-    if (!lit_jeton(j)) return false;
-    if (j.commentaire) return true;
-    double x;
-    if (!convertit(quatorze(j.texte), x)) return echec_jeton(j);
-    v = (x != 0.0) ? VRAI : FAUX;
+    double x = 0;
+    if (!nombre(x, j)) return false;
+    if (!j.commentaire) v = (x != 0.0) ? VRAI : FAUX;
     return true;
 }
 
 bool LecteurLignes::lecture_ligne(float& v) {
     Jeton j;
-    if (!lit_jeton(j)) return false;
-    if (j.commentaire) return true;
-    if (!convertit(quatorze(j.texte), v)) return echec_jeton(j);
-    return true;
+    return nombre(v, j);
 }
 
 bool LecteurLignes::lecture_ligne(double& v) {
     Jeton j;
-    if (!lit_jeton(j)) return false;
-    if (j.commentaire) return true;
-    if (!convertit(quatorze(j.texte), v)) return echec_jeton(j);
-    return true;
+    return nombre(v, j);
 }
 
 bool LecteurLignes::lecture_jeton_reel(double& v) {

@@ -44,6 +44,9 @@ private:
     static std::string quatorze(const std::string& t);
     bool echec(long ligne, const std::string& texte);
     bool echec_jeton(const Jeton& j);
+    // One token's 14 characters into x; x untouched for a "!" line.
+    template <class T>
+    bool nombre(T& x, Jeton& j);
     template <class T>
     bool entier(T& v, double min, double max);
 

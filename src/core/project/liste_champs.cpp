@@ -31,7 +31,10 @@ struct Liste {
     void reel(const double& x, std::size_t, const std::string& n) { ajoute(n, x); }
     void entier(const int16_t& x, std::size_t, const std::string& n) { ajoute(n, x); }
     void texte(const std::array<char, 24>& x, std::size_t, const std::string& n) {
-        champs.push_back({n, "\"" + std::string(x.begin(), x.end()) + "\""});
+        std::string t(1, '"');
+        t.append(x.begin(), x.end());
+        t += '"';
+        champs.push_back({n, t});
     }
 };
 
