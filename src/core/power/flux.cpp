@@ -48,14 +48,11 @@ double incidence_earth(const Etat& etat, double a, double b) {
 }
 
 double cell_cosine(const Etat& etat, double theta) {
+    // The parabola's coefficients cost two sines: built only when needed.
+    if (theta <= etat.pwr.inc_div * DEG_RAD) return std::max(std::cos(theta), 0.0);
+    if (!(theta < etat.pwr.inc_max * DEG_RAD)) return 0.0;
     const Parabole q = parabole(etat.pwr);
-    double g;
-    if (theta <= q.d)
-        g = std::cos(theta);
-    else if (theta < q.m)
-        g = q.A * theta * theta + q.B * theta + q.C;
-    else
-        g = 0;
+    const double g = q.A * theta * theta + q.B * theta + q.C;
     return g < 0 ? 0 : g;
 }
 
