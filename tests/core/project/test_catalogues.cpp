@@ -7,22 +7,18 @@ using namespace kestrel;
 
 TEST(Catalogues, CellulesEcraseSeulementSesChamps) {
     PowerRecord p;
-    p.cel_type = 0;
     p.cel_radisc = 0.9f;
     p.cel_ns = 12.5f;
     p.cel_tref = 30.0f;
     catalogue_cellules(p, 1);  // Silicium
     EXPECT_EQ(p.cel_isc, 1.0f);
-    EXPECT_EQ(p.cel_imp, 0.95f);
     EXPECT_EQ(p.cel_voc, 0.54f);
-    EXPECT_EQ(p.cel_vmp, 0.45f);
-    EXPECT_EQ(p.cel_disc, 0.0012f);
     EXPECT_EQ(p.cel_dimp, 0.0009f);
-    EXPECT_EQ(p.cel_dvoc, -0.002f);
     EXPECT_EQ(p.cel_dvmp, -0.002f);
     EXPECT_EQ(p.cel_surface, 20.0f);
-    EXPECT_FLOAT_EQ(p.cel_rendement, 4275.0f / 1368.0f / 20.0f);  // 0.15625
-    EXPECT_EQ(p.cel_type, 0);  // the index is the caller's
+    EXPECT_FLOAT_EQ(p.cel_rendement, 0.15625f);  // 4275 / 1368 / 20
+    // Not listed: the type index (the caller's), the ratios, counts, reference.
+    EXPECT_EQ(p.cel_type, 0);
     EXPECT_EQ(p.cel_radisc, 0.9f);
     EXPECT_EQ(p.cel_ns, 12.5f);
     EXPECT_EQ(p.cel_tref, 30.0f);
@@ -31,10 +27,9 @@ TEST(Catalogues, CellulesEcraseSeulementSesChamps) {
     p.cel_isc = 3.0f;
     catalogue_cellules(p, 0);
     const PowerRecord neuf;
-    EXPECT_EQ(p.cel_isc, 0.53f);
-    EXPECT_EQ(p.cel_vmp, 0.86f);
-    EXPECT_EQ(p.cel_dimp, 0.00025f);
-    EXPECT_EQ(p.cel_surface, 16.0f);
+    EXPECT_EQ(p.cel_isc, neuf.cel_isc);
+    EXPECT_EQ(p.cel_vmp, neuf.cel_vmp);
+    EXPECT_EQ(p.cel_dimp, neuf.cel_dimp);
     EXPECT_EQ(p.cel_rendement, neuf.cel_rendement);
 
     catalogue_cellules(p, 5);  // no such entry
@@ -44,38 +39,24 @@ TEST(Catalogues, CellulesEcraseSeulementSesChamps) {
 TEST(Catalogues, BatterieParType) {
     PowerRecord p;
     p.bat_c = 20.0f;
-    p.bat_ns = 7;
     catalogue_batterie(p, 2);  // Lithium-Ion
     EXPECT_EQ(p.ch_pt[0][3], 3.3f);
-    EXPECT_EQ(p.ch_pt[1][0], 20.0f);
     EXPECT_EQ(p.ch_pt[1][5], 0.4f);
-    EXPECT_EQ(p.ch_pt[3][0], 100.0f);
-    EXPECT_EQ(p.de_pt[0][3], 4.1f);
     EXPECT_EQ(p.de_pt[2][2], -2.0f);
-    EXPECT_EQ(p.de_pt[2][5], -0.4f);
     EXPECT_EQ(p.de_pt[3][3], 2.8f);
-    EXPECT_EQ(p.bat_cmax, 1.0f);
     EXPECT_EQ(p.bat_c10, 0.8f);
-    EXPECT_EQ(p.bat_tmin, -50.0f);
-    EXPECT_EQ(p.bat_cmin_pct, 30.0f);
-    EXPECT_EQ(p.bat_t999, 50.0f);
     EXPECT_EQ(p.bat_tau0, 500.0f);
     EXPECT_EQ(p.bat_tau50, 300.0f);
     EXPECT_EQ(p.gst_k_recharge, 1.0f);
     EXPECT_EQ(p.gst_vch_max, 4.0f);
-    EXPECT_EQ(p.bat_c, 20.0f);
-    EXPECT_EQ(p.bat_ns, 7);
+    EXPECT_EQ(p.bat_c, 20.0f);  // the capacity is not the catalogue's
 
     // Nickel-Hydrogène shares the Nickel-Cadmium set; its maximum charge
     // voltage 1.55 differs from the new-project 1.5.
     catalogue_batterie(p, 1);
     EXPECT_EQ(p.ch_pt[3][0], 120.0f);
-    EXPECT_EQ(p.ch_pt[3][3], 1.59f);
-    EXPECT_EQ(p.de_pt[1][3], 1.21f);
     EXPECT_EQ(p.de_pt[2][0], 95.0f);
     EXPECT_EQ(p.bat_cmax, 1.2f);
-    EXPECT_EQ(p.bat_c10, 0.6f);
-    EXPECT_EQ(p.bat_tau0, 100.0f);
     EXPECT_EQ(p.bat_tau50, 15.0f);
     EXPECT_EQ(p.gst_k_recharge, 1.05f);
     EXPECT_EQ(p.gst_vch_max, 1.55f);
