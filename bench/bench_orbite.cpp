@@ -16,6 +16,10 @@ namespace {
 std::atomic<long> allocations{0};
 }  // namespace
 
+// The replacements below pair malloc with free on purpose; g++ cannot see
+// that new and delete are both replaced and warns.
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
+
 void* operator new(std::size_t n) {
     allocations.fetch_add(1, std::memory_order_relaxed);
     if (void* p = std::malloc(n ? n : 1)) return p;

@@ -2,15 +2,10 @@
 // known period and step, the first row at the epoch, and refused arguments.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
+
+#include "cli/outils_cli.h"
 
 #include "core/etat.h"
 #include "core/project/projet.h"
@@ -20,40 +15,17 @@ namespace {
 const char* const ENTETE =
     "j,sat_x,sat_y,sat_z,vit_x,vit_y,vit_z,sun_x,sun_y,sun_z,eclipse,anomalie_moy,lon,lat,alt";
 
-struct Resultat {
+using namespace kestrel::test;
+
+struct Sortie {
     int code = -1;
     std::vector<std::string> lignes;  // standard output
     std::string erreurs;              // standard error
 };
 
-Resultat lance_orbit(const std::string& arguments) {
-    const auto err = std::filesystem::temp_directory_path() / ("kestrel_orbit_err_" + std::to_string(::getpid()));
-    const std::string commande =
-        std::string("\"") + KESTREL_EXE + "\" orbit " + arguments + " 2>\"" + err.string() + "\"";
-    Resultat r;
-    FILE* f = ::popen(commande.c_str(), "r");
-    if (!f) return r;
-    std::string tout;
-    char tampon[4096];
-    size_t n;
-    while ((n = std::fread(tampon, 1, sizeof tampon, f)) > 0) tout.append(tampon, n);
-    const int statut = ::pclose(f);
-    r.code = WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
-    std::istringstream in(tout);
-    for (std::string l; std::getline(in, l);) r.lignes.push_back(l);
-    std::ifstream e(err);
-    std::ostringstream es;
-    es << e.rdbuf();
-    r.erreurs = es.str();
-    std::filesystem::remove(err);
-    return r;
-}
-
-std::vector<std::string> champs(const std::string& ligne) {
-    std::vector<std::string> c;
-    std::istringstream in(ligne);
-    for (std::string x; std::getline(in, x, ',');) c.push_back(x);
-    return c;
+Sortie lance_orbit(const std::string& arguments) {
+    const Resultat r = lance("orbit " + arguments);
+    return {r.code, lignes(r.out), r.err};
 }
 
 }  // namespace
@@ -61,7 +33,7 @@ std::vector<std::string> champs(const std::string& ligne) {
 TEST(CliOrbit, PeriodeParDefautUneOrbite) {
     // Default orbit: epoch 2001, day 80.55001 -> j = 18628 + 79.55001; the
     // period is 1 / 15 day = 5760 s, 48 steps of 120 s: 49 dates.
-    const Resultat r = lance_orbit("");
+    const Sortie r = lance_orbit("");
     ASSERT_EQ(r.code, 0) << r.erreurs;
     ASSERT_EQ(r.lignes.size(), 1u + 49u);
     EXPECT_EQ(r.lignes[0], ENTETE);
@@ -84,7 +56,7 @@ TEST(CliOrbit, PeriodeParDefautUneOrbite) {
 
 TEST(CliOrbit, PeriodeEtPasDonnes) {
     // half a day every 600 s: 72 steps, 73 dates
-    Resultat r = lance_orbit("--start 20000 --end 20000.5 --step 600");
+    Sortie r = lance_orbit("--start 20000 --end 20000.5 --step 600");
     ASSERT_EQ(r.code, 0) << r.erreurs;
     EXPECT_EQ(r.lignes.size(), 1u + 73u);
     EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 20000.0);
@@ -100,7 +72,7 @@ TEST(CliOrbit, PeriodeEtPasDonnes) {
 TEST(CliOrbit, ArgumentsRefuses) {
     for (const char* a : {"--start 2001-13-01T00:00:00", "--start hier", "--end 2001-02-30T25:00:00",
                           "--step 0", "--step -60", "--start 20001 --end 20000", "--inconnu"}) {
-        const Resultat r = lance_orbit(a);
+        const Sortie r = lance_orbit(a);
         EXPECT_EQ(r.code, 2) << a;
         EXPECT_TRUE(r.lignes.empty()) << a;
         EXPECT_FALSE(r.erreurs.empty()) << a;
@@ -117,9 +89,9 @@ TEST(CliOrbit, FauteArreteLaMarcheLignesGardees) {
     e.orbite.orb_excentricite = 0.1;
     e.orbite.orb_anomalie = 180.0;
     const auto chemin =
-        std::filesystem::temp_directory_path() / ("kestrel_orbit_" + std::to_string(::getpid()) + ".orb");
+        dossier_test() / "basse.orb";
     ASSERT_FALSE(kestrel::sauve_orbite(e, chemin.string()));
-    const Resultat r = lance_orbit("--orb \"" + chemin.string() + "\"");
+    const Sortie r = lance_orbit("--orb \"" + chemin.string() + "\"");
     std::filesystem::remove(chemin);
     EXPECT_EQ(r.code, 1);
     EXPECT_NE(r.erreurs.find("rayon d'ombre de 6428 km"), std::string::npos) << r.erreurs;

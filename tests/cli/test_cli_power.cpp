@@ -2,54 +2,15 @@
 // summary, the cells' date check and the option checks.
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
-#include <sys/wait.h>
-#include <vector>
+
+#include "cli/outils_cli.h"
 
 namespace {
 
-namespace fs = std::filesystem;
+using namespace kestrel::test;
 
-struct Resultat {
-    int code = -1;
-    std::string out, err;
-};
-
-std::string lit(const fs::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
-
-Resultat lance_power(const std::string& args) {
-    const fs::path out = fs::temp_directory_path() / "kestrel_cli_power_out.txt";
-    const fs::path err = fs::temp_directory_path() / "kestrel_cli_power_err.txt";
-    const std::string cmd = std::string("\"") + KESTREL_EXE + "\" power " + args + " > \"" + out.string() +
-                            "\" 2> \"" + err.string() + "\"";
-    const int s = std::system(cmd.c_str());
-    Resultat r;
-    r.code = WIFEXITED(s) ? WEXITSTATUS(s) : -1;
-    r.out = lit(out);
-    r.err = lit(err);
-    return r;
-}
-
-std::vector<std::string> lignes(const std::string& texte) {
-    std::vector<std::string> v;
-    std::istringstream f(texte);
-    for (std::string l; std::getline(f, l);) v.push_back(l);
-    return v;
-}
-
-std::vector<std::string> champs(const std::string& ligne) {
-    std::vector<std::string> v;
-    std::istringstream f(ligne);
-    for (std::string c; std::getline(f, c, ',');) v.push_back(c);
-    return v;
-}
+Resultat lance_power(const std::string& args) { return lance("power " + args); }
 
 TEST(CliPower, HeaderAndOneRowPerDate) {
     // One hour at 600 s: dates at 0, 600, ..., 3600 s: 7 rows.

@@ -2,45 +2,23 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
+
+#include "cli/outils_cli.h"
 
 namespace {
 
-struct Resultat {
-    int code = -1;
-    std::string sortie;
-};
+using namespace kestrel::test;
 
-Resultat lance(const std::string& arguments) {
-    Resultat r;
-    const std::string cmd = std::string(KESTREL_EXE) + " " + arguments + " 2>/dev/null";
-    FILE* p = popen(cmd.c_str(), "r");
-    if (!p) return r;
-    std::array<char, 4096> tampon;
-    std::size_t n;
-    while ((n = fread(tampon.data(), 1, tampon.size(), p)) > 0) r.sortie.append(tampon.data(), n);
-    const int s = pclose(p);
-    r.code = WIFEXITED(s) ? WEXITSTATUS(s) : -1;
-    return r;
-}
-
-std::string octets(const std::filesystem::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-}
+std::string octets(const fs::path& p) { return lit_fichier(p); }
 
 struct Dossier {
-    std::filesystem::path p = std::filesystem::temp_directory_path() / "kestrel_cli_project";
+    fs::path p = dossier_test() / "projet";
     Dossier() {
-        std::filesystem::remove_all(p);
-        std::filesystem::create_directories(p);
+        fs::remove_all(p);
+        fs::create_directories(p);
     }
-    ~Dossier() { std::filesystem::remove_all(p); }
+    ~Dossier() { fs::remove_all(p); }
 };
 
 }  // namespace
@@ -52,29 +30,29 @@ TEST(CliProject, NouveauPuisListe) {
         lance("project new --pwr " + pwr.string() + " --att " + att.string() + " --orb " + orb.string());
     ASSERT_EQ(r.code, 0);
     EXPECT_EQ(octets(pwr), octets(std::string(KESTREL_SOURCE_DIR) + "/tests/data/defaut.pwr"));
-    EXPECT_EQ(std::filesystem::file_size(att), 820u);
-    EXPECT_EQ(std::filesystem::file_size(orb), 128u);
+    EXPECT_EQ(fs::file_size(att), 820u);
+    EXPECT_EQ(fs::file_size(orb), 128u);
 
     // 279 lines less the 46 comment lines leave 233 fields.
     const Resultat sp = lance("project show " + pwr.string());
     ASSERT_EQ(sp.code, 0);
-    EXPECT_EQ(std::count(sp.sortie.begin(), sp.sortie.end(), '\n'), 233);
-    EXPECT_NE(sp.sortie.find("cel_isc = 0.53\n"), std::string::npos);
-    EXPECT_NE(sp.sortie.find("ch_pt(3,0) = 120\n"), std::string::npos);
-    EXPECT_NE(sp.sortie.find("opt_panel_ext = -1\n"), std::string::npos);
-    EXPECT_NE(sp.sortie.find("pas_sim = 120\n"), std::string::npos);
+    EXPECT_EQ(std::count(sp.out.begin(), sp.out.end(), '\n'), 233);
+    EXPECT_NE(sp.out.find("cel_isc = 0.53\n"), std::string::npos);
+    EXPECT_NE(sp.out.find("ch_pt(3,0) = 120\n"), std::string::npos);
+    EXPECT_NE(sp.out.find("opt_panel_ext = -1\n"), std::string::npos);
+    EXPECT_NE(sp.out.find("pas_sim = 120\n"), std::string::npos);
 
     const Resultat sa = lance("project show " + att.string());
     ASSERT_EQ(sa.code, 0);
     // 820 bytes = 101 reals of 8 bytes and 6 words of 2.
-    EXPECT_EQ(std::count(sa.sortie.begin(), sa.sortie.end(), '\n'), 107);
-    EXPECT_NE(sa.sortie.find("Masse = 50\n"), std::string::npos);
-    EXPECT_NE(sa.sortie.find("I_corps(2,2) = 2.541\n"), std::string::npos);
+    EXPECT_EQ(std::count(sa.out.begin(), sa.out.end(), '\n'), 107);
+    EXPECT_NE(sa.out.find("Masse = 50\n"), std::string::npos);
+    EXPECT_NE(sa.out.find("I_corps(2,2) = 2.541\n"), std::string::npos);
 
     const Resultat so = lance("project show " + orb.string());
     ASSERT_EQ(so.code, 0);
-    EXPECT_NE(so.sortie.find("orb_an = 2001\n"), std::string::npos);
-    EXPECT_NE(so.sortie.find("orb_jour = 80.55001\n"), std::string::npos);
+    EXPECT_NE(so.out.find("orb_an = 2001\n"), std::string::npos);
+    EXPECT_NE(so.out.find("orb_jour = 80.55001\n"), std::string::npos);
 }
 
 TEST(CliProject, Refus) {

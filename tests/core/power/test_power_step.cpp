@@ -117,7 +117,9 @@ TEST(PowerStep, ADayInEachLayoutStaysFiniteWithEclipsesAtTheExpectedFraction) {
         EXPECT_GE(b.soc_min, 0.0);
         EXPECT_LE(b.soc_max, 1.0);
         EXPECT_GT(b.pg_max, 10.0);
-        if (cas == 1 || cas == 2) EXPECT_EQ(e.pwr.t_bat, 20.0);
+        if (cas == 1 || cas == 2) {
+            EXPECT_EQ(e.pwr.t_bat, 20.0);
+        }
     }
 }
 

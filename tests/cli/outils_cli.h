@@ -1,0 +1,71 @@
+// Runs the built `kestrel` as a user would. Every test process gets its own
+// scratch folder, so test cases that ctest runs side by side never share a file.
+#pragma once
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace kestrel::test {
+
+namespace fs = std::filesystem;
+
+struct Resultat {
+    int code = -1;    // exit code
+    std::string out;  // standard output
+    std::string err;  // standard error
+};
+
+inline std::string lit_fichier(const fs::path& p) {
+    std::ifstream f(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
+}
+
+// Empty folder private to this test process, removed when the process ends.
+inline fs::path dossier_test() {
+    struct Dossier {
+        fs::path p = fs::temp_directory_path() / ("kestrel_test_" + std::to_string(::getpid()));
+        Dossier() {
+            fs::remove_all(p);
+            fs::create_directories(p);
+        }
+        ~Dossier() {
+            std::error_code ec;
+            fs::remove_all(p, ec);
+        }
+    };
+    static const Dossier d;
+    return d.p;
+}
+
+// `exe arguments`, both streams captured.
+inline Resultat lance(const std::string& arguments, const std::string& exe = KESTREL_EXE) {
+    const fs::path out = dossier_test() / "stdout.txt";
+    const fs::path err = dossier_test() / "stderr.txt";
+    const std::string cmd = "\"" + exe + "\" " + arguments + " > \"" + out.string() + "\" 2> \"" +
+                            err.string() + "\"";
+    const int s = std::system(cmd.c_str());
+    Resultat r;
+    r.code = WIFEXITED(s) ? WEXITSTATUS(s) : -1;
+    r.out = lit_fichier(out);
+    r.err = lit_fichier(err);
+    return r;
+}
+
+inline std::vector<std::string> decoupe(const std::string& texte, char sep) {
+    std::vector<std::string> v;
+    std::istringstream f(texte);
+    for (std::string x; std::getline(f, x, sep);) v.push_back(x);
+    return v;
+}
+
+inline std::vector<std::string> lignes(const std::string& texte) { return decoupe(texte, '\n'); }
+inline std::vector<std::string> champs(const std::string& ligne) { return decoupe(ligne, ','); }
+
+}  // namespace kestrel::test
