@@ -17,6 +17,7 @@ struct FauxDialogues : kestrel::gui::Dialogues {
     QList<kestrel::gui::DemandeFichier> demandes;   // every file dialog shown
     QList<QString> questions;                       // "title|text" of every question
     QList<Message> messages;
+    QList<QString> fatales;                         // reports of fin_fatale (the program would end)
 
     QString suivant() {
         if (chemins.empty()) return {};
@@ -42,4 +43,5 @@ struct FauxDialogues : kestrel::gui::Dialogues {
     void message(QWidget*, const QString& texte, kestrel::Icone icone) override {
         messages << Message{texte, icone};
     }
+    void fin_fatale(QWidget*, const QString& rapport) override { fatales << rapport; }
 };

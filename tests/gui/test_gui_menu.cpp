@@ -83,6 +83,7 @@ private slots:
     void ouverture_pas_45_s();
     void ouverture_fichier_mauvais();
     void enregistre_puis_ouvre();
+    void echecs_d_ecriture();
     void fenetres_conf_rechargees();
     void quitter_annule_garde_fenetre();
     void capture_fenetre();
@@ -224,10 +225,13 @@ void TestMenu::entrees_sans_fenetre_desactivees() {
     QVERIFY(!entree("mn_sim_car")->isEnabled());
     QVERIFY(!b.cle("Toolbar_orb", "orbite")->isEnabled());
     QVERIFY(!b.cle("Toolbar_power", "orb")->isEnabled());
+    const QString pourquoi = QStringLiteral("Fenêtre non disponible dans cette version");
+    QCOMPARE(entree("mn_sim_car")->toolTip(), pourquoi);
     int ouvertures = 0;
     b.fen->branche(QStringLiteral("mn_sim_car"), [&] { ++ouvertures; });
     QVERIFY(b.cle("Toolbar_orb", "orbite")->isEnabled());
     QVERIFY(b.cle("Toolbar_power", "orb")->isEnabled());
+    QVERIFY(entree("mn_sim_car")->toolTip() != pourquoi);
     b.cle("Toolbar_orb", "orbite")->trigger();
     b.cle("Toolbar_power", "orb")->trigger();
     QCOMPARE(ouvertures, 2);
@@ -319,17 +323,21 @@ void TestMenu::ouverture_fichier_mauvais() {
     const QDateTime debut_avant = debut->dateTime();
     const Etat avant = b.etat;
 
+    // An unreadable .pwr ends the program with its report, naming the line.
     b.dlg.chemins = {mauvais, b.fichier("absent.att")};
     b.ctrl<QAction>("mn_fichier_ouvrir")->trigger();
-    QCOMPARE(b.dlg.messages.size(), 1);
-    QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
-    QVERIFY(b.dlg.messages[0].texte.startsWith(QStringLiteral("Erreur de lecture")));
+    QCOMPARE(b.dlg.fatales.size(), 1);
+    QVERIFY(b.dlg.fatales[0].startsWith(QStringLiteral("Erreur de lecture")));
+    QVERIFY(b.dlg.fatales[0].contains(QStringLiteral("ligne ")));
+    QVERIFY(b.dlg.messages.isEmpty());
+    QVERIFY(b.dlg.questions.isEmpty());  // no save question on the way out
 
-    // A missing .att gives its own message, word for word.
+    // A missing .att gives its own message, word for word, and the program goes on.
     b.ctrl<QAction>("mn_attfich_ouvrir")->trigger();
-    QCOMPARE(b.dlg.messages.size(), 2);
-    QCOMPARE(b.dlg.messages[1].texte, QString::fromUtf8(kestrel::msg::lecture_attitude));
-    QCOMPARE(b.dlg.messages[1].icone, Icone::critique);
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].texte, QString::fromUtf8(kestrel::msg::lecture_attitude));
+    QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
+    QCOMPARE(b.dlg.fatales.size(), 1);
 
     // The session is as it was.
     QCOMPARE(b.s().j_debut, avant.session.j_debut);
@@ -392,6 +400,45 @@ void TestMenu::enregistre_puis_ouvre() {
     QCOMPARE(b.etat.att.Masse, 73.5);
     QCOMPARE(QString::fromStdString(b.s().chemin_attitude), att);
     QCOMPARE(b.s().config_modifiee, int16_t{1});
+
+    // Titles and proposed names drop the last four characters whatever they
+    // are: "sauvegarde.v2" less "e.v2" is "sauvegard".
+    b.dlg.chemins = {b.fichier("sauvegarde.v2"), QString()};
+    b.ctrl<QAction>("mn_fichier_enregsous")->trigger();
+    QCOMPARE(b.fen->windowTitle(), QStringLiteral("Energie (sauvegard)"));
+    b.ctrl<QAction>("mn_fichier_enregsous")->trigger();
+    QCOMPARE(b.dlg.demandes.last().nom, QStringLiteral("sauvegard"));
+}
+
+void TestMenu::echecs_d_ecriture() {
+    Banc b;
+    if (!formats_disponibles(b.tmp.path())) QSKIP("le format .pwr n'est pas encore lisible");
+    // A folder that does not exist: every write there fails.
+    const QString pwr = b.fichier("absent/x.pwr");
+    const QString att = b.fichier("absent/x.att");
+
+    // Energy: the stop box word for word, then the program goes on as it was.
+    b.dlg.chemins = {pwr, att};
+    b.ctrl<QAction>("mn_fichier_enregsous")->trigger();
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].texte, QString::fromUtf8(kestrel::msg::ecriture_energie));
+    QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
+    QVERIFY(b.s().chemin_energie.empty());
+    QCOMPARE(b.fen->windowTitle(), QStringLiteral("Energie (sans_nom)"));
+
+    // Attitude save as: ends as a cancel does, without a word.
+    b.ctrl<QAction>("mn_attfich_enregsous")->trigger();
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QVERIFY(b.s().chemin_attitude.empty());
+    QCOMPARE(b.ctrl<QGroupBox>("fra_attitude")->title(), QStringLiteral("Contrôle d'attitude"));
+    QVERIFY(b.dlg.fatales.isEmpty());
+
+    // Attitude save over the current file: no dialog, and a failure ends the program.
+    b.s().chemin_attitude = att.toStdString();
+    b.ctrl<QAction>("mn_attfich_enreg")->trigger();
+    QCOMPARE(b.dlg.demandes.size(), 2);
+    QCOMPARE(b.dlg.fatales.size(), 1);
+    QCOMPARE(b.dlg.messages.size(), 1);
 }
 
 void TestMenu::fenetres_conf_rechargees() {
@@ -400,7 +447,15 @@ void TestMenu::fenetres_conf_rechargees() {
     int conf = 0, attconf = 0, detruite = 0;
     QWidget power_conf, att_conf;
     auto* partie = new QWidget;
-    b.fen->registre().inscrit(&power_conf, QStringLiteral("conf"), [&] { ++conf; });
+    // When a window reloads, the title already names the project and the
+    // mark is not yet set: it comes last.
+    QString titre_vu;
+    int16_t marque_vue = -1;
+    b.fen->registre().inscrit(&power_conf, QStringLiteral("conf"), [&] {
+        ++conf;
+        titre_vu = b.fen->windowTitle();
+        marque_vue = b.s().config_modifiee;
+    });
     b.fen->registre().inscrit(&att_conf, QStringLiteral("attconf"), [&] { ++attconf; });
     b.fen->registre().inscrit(partie, QStringLiteral("conf"), [&] { ++detruite; });
     delete partie;
@@ -413,6 +468,9 @@ void TestMenu::fenetres_conf_rechargees() {
     b.ctrl<QAction>("mn_fichier_ouvrir")->trigger();
     QCOMPARE(conf, 1);
     QCOMPARE(attconf, 0);
+    QCOMPARE(titre_vu, QStringLiteral("Energie (r)"));
+    QCOMPARE(marque_vue, int16_t{0});
+    QCOMPARE(b.s().config_modifiee, int16_t{1});
     b.ctrl<QAction>("mn_attfich_ouvrir")->trigger();
     QCOMPARE(conf, 1);
     QCOMPARE(attconf, 1);

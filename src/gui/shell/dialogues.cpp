@@ -1,5 +1,6 @@
 #include "shell/dialogues.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -53,6 +54,13 @@ void DialoguesQt::message(QWidget* parent, const QString& texte, Icone icone) {
         case Icone::avertissement: QMessageBox::warning(parent, titre, texte); break;
         case Icone::aucune: QMessageBox::information(parent, titre, texte); break;
     }
+}
+
+void DialoguesQt::fin_fatale(QWidget* parent, const QString& rapport) {
+    QMessageBox::critical(parent, QString::fromUtf8(titre_messages),
+                          rapport + QString::fromUtf8("\n\nLe programme va s'arrêter."));
+    // The event loop ends at once: no close event, so no save question.
+    QCoreApplication::exit(1);
 }
 
 QString filtre_qt(const QString& filtre) {

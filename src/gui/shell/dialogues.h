@@ -31,6 +31,10 @@ public:
     virtual Reponse question(QWidget* parent, const QString& titre, const QString& texte) = 0;
     // A box with one OK button; the icon tells how bad it is.
     virtual void message(QWidget* parent, const QString& texte, Icone icone) = 0;
+    // A failure the program does not survive (a .pwr that cannot be read, an
+    // attitude project that cannot be rewritten): the report, then the end of
+    // the program with no question and no save.
+    virtual void fin_fatale(QWidget* parent, const QString& rapport) = 0;
 };
 
 // The real boxes of the desktop.
@@ -40,6 +44,7 @@ public:
     QString enregistrer(QWidget* parent, const DemandeFichier& d) override;
     Reponse question(QWidget* parent, const QString& titre, const QString& texte) override;
     void message(QWidget* parent, const QString& texte, Icone icone) override;
+    void fin_fatale(QWidget* parent, const QString& rapport) override;
 };
 
 // "Label|*.ext|All Files (*.*)|*.*" into Qt's "Label (*.ext);;All Files (*.*)".

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QDir>
+#include <QFileInfo>
 #include <QFont>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -15,6 +16,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWidgetAction>
 #include <array>
 
 #include "core/etat.h"
@@ -38,6 +40,9 @@ constexpr const char* titre_ouvrir_att =
 constexpr const char* titre_sauver_att =
     "Enregistrer le fichier de configuration du contrôle d'attitude";
 constexpr const char* filtre_att = "Fichiers  Configuration (*.att)|*.att|All Files (*.*)|*.*";
+
+// Tooltip of an entry whose window is not part of the program yet.
+constexpr const char* indisponible = "Fenêtre non disponible dans cette version";
 
 // --- menu tree ---------------------------------------------------------------------
 enum class Genre { rubrique, sous_menu, commande, libelle, separateur };
@@ -162,8 +167,13 @@ double depuis_picker(const QDateTimeEdit* p) {
     return date_vers_jour(d);
 }
 
-QString nom_projet(const std::string& chemin) {
-    return QString::fromStdString(extrait_nom_fichier(chemin));
+// The project's name in titles and dialogs: the file's own name (no folders)
+// less its last four characters, which a project file's extension and its
+// point fill; a name of four characters or fewer leaves nothing.
+QString nom_projet(const QString& chemin) {
+    QString nom = QFileInfo(chemin).fileName();
+    nom.chop(4);
+    return nom;
 }
 
 QString u(const char* texte) { return QString::fromUtf8(texte); }
@@ -206,25 +216,42 @@ void menu::construit_menus() {
             case Genre::rubrique:
                 rubrique = menuBar()->addMenu(u(e.texte));
                 rubrique->setObjectName(u(e.nom));
+                rubrique->setToolTipsVisible(true);
                 break;
             case Genre::sous_menu:
                 sous_menu = rubrique->addMenu(u(e.texte));
                 sous_menu->setObjectName(u(e.nom));
+                sous_menu->setToolTipsVisible(true);
                 break;
             case Genre::separateur:
                 cible->addSeparator();
                 break;
-            case Genre::libelle:
+            case Genre::libelle: {
+                // A label entry never runs anything, yet reads as the heading
+                // of the entries below it, not as a greyed-out command.
+                auto* a = new QWidgetAction(cible);
+                a->setObjectName(u(e.nom));
+                a->setText(u(e.texte));
+                auto* titre = new QLabel(u(e.texte));
+                QFont f = titre->font();
+                f.setBold(true);
+                titre->setFont(f);
+                titre->setContentsMargins(8, 4, 8, 2);
+                QPalette pal = titre->palette();
+                pal.setColor(QPalette::Disabled, QPalette::WindowText,
+                             pal.color(QPalette::Active, QPalette::WindowText));
+                titre->setPalette(pal);
+                a->setDefaultWidget(titre);
+                a->setEnabled(false);
+                cible->addAction(a);
+                break;
+            }
             case Genre::commande: {
                 QAction* a = cible->addAction(u(e.texte));
                 a->setObjectName(u(e.nom));
-                // A command waits for branche(); a label entry never runs anything.
+                // A command waits for branche(); until then the entry says why it is off.
                 a->setEnabled(false);
-                if (e.genre == Genre::libelle) {
-                    QFont f = a->font();
-                    f.setBold(true);
-                    a->setFont(f);
-                }
+                a->setToolTip(u(indisponible));
                 break;
             }
         }
@@ -343,6 +370,7 @@ void menu::branche(const QString& entree, std::function<void()> commande) {
     disconnect(a, &QAction::triggered, nullptr, nullptr);
     connect(a, &QAction::triggered, this, [c = std::move(commande)] { c(); });
     a->setEnabled(true);
+    a->setToolTip(QString());
     for (const Touche& t : touches) {
         if (entree != u(t.entree)) continue;
         auto* barre = findChild<QToolBar*>(u(t.barre));
@@ -411,13 +439,13 @@ void menu::periode_modifiee(QDateTimeEdit* edite, QDateTimeEdit* autre) {
 QString menu::dossier_depart() const { return QString::fromStdString(etat_.session.dossier_depart); }
 
 void menu::titre_energie(const QString& chemin) {
-    const QString titre = u("Energie (") + nom_projet(chemin.toStdString()) + u(")");
+    const QString titre = u("Energie (") + nom_projet(chemin) + u(")");
     setWindowTitle(titre);
     fra_energie_->setTitle(titre);
 }
 
 void menu::titre_attitude(const QString& chemin) {
-    fra_attitude_->setTitle(u("Contrôle d'attitude (") + nom_projet(chemin.toStdString()) + u(")"));
+    fra_attitude_->setTitle(u("Contrôle d'attitude (") + nom_projet(chemin) + u(")"));
 }
 
 // Dialog of a project command: the kind's title and filter, dossier_depart,
@@ -425,7 +453,7 @@ void menu::titre_attitude(const QString& chemin) {
 DemandeFichier menu::demande(const char* titre, const char* filtre, const std::string& actuel,
                              const char* extension) const {
     return {u(titre), filtre_qt(u(filtre)), dossier_depart(),
-            actuel.empty() ? QString() : nom_projet(actuel), u(extension)};
+            actuel.empty() ? QString() : nom_projet(QString::fromStdString(actuel)), u(extension)};
 }
 
 void menu::montre_erreur(const QString& texte) { dialogues_.message(this, texte, Icone::critique); }
@@ -435,17 +463,27 @@ void menu::ouvre_energie() {
     const QString chemin = dialogues_.ouvrir(this, d);
     QDir::setCurrent(dossier_depart());
     if (chemin.isEmpty()) return;
-    // charge_energie replaces the records only after a whole good read.
+    // A .pwr that cannot be read is the end of the program: its report, then
+    // no question and no save of a half-known project.
     const Erreur e = charge_energie(etat_, chemin.toStdString());
     if (e) {
-        montre_erreur(QString::fromStdString(texte_erreur(e)));
+        dialogues_.fin_fatale(this, QString::fromStdString(texte_erreur(e)));
         return;
     }
     etat_.session.chemin_energie = chemin.toStdString();
-    titre_energie(chemin);
+    apres_ouverture(chemin, u(tag_energie));
+}
+
+// The common end of both opens, in this order: title, reload of the windows
+// of the tag (they see the mark as it was), the simulation frame, the mark.
+void menu::apres_ouverture(const QString& chemin, const QString& tag) {
+    if (tag == u(tag_energie))
+        titre_energie(chemin);
+    else
+        titre_attitude(chemin);
+    registre_.recharge(tag);
     affiche_periode();
     etat_.session.config_modifiee = 1;
-    registre_.recharge(u(tag_energie));
 }
 
 bool menu::enregistre_energie() {
@@ -481,15 +519,14 @@ void menu::ouvre_attitude() {
         return;
     }
     etat_.session.chemin_attitude = chemin.toStdString();
-    titre_attitude(chemin);
-    etat_.session.config_modifiee = 1;
-    registre_.recharge(u(tag_attitude));
+    apres_ouverture(chemin, u(tag_attitude));
 }
 
 bool menu::enregistre_attitude() {
     if (etat_.session.chemin_attitude.empty()) return enregistre_attitude_sous();
+    // Rewriting the current file has no recovery: a failure ends the program.
     const Erreur e = sauve_attitude(etat_, etat_.session.chemin_attitude);
-    if (e) montre_erreur(QString::fromStdString(texte_erreur(e)));
+    if (e) dialogues_.fin_fatale(this, QString::fromStdString(texte_erreur(e)));
     return !e;
 }
 

@@ -78,6 +78,7 @@ private:
                            const char* extension) const;
     void titre_energie(const QString& chemin);
     void titre_attitude(const QString& chemin);
+    void apres_ouverture(const QString& chemin, const QString& tag);
     void montre_erreur(const QString& texte);
 
     Etat& etat_;
