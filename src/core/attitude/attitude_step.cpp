@@ -140,14 +140,6 @@ void remplit_systeme(const AttitudeRecord& a, double M[6][6], double B[6][7]) {
               sq(md2) * z2 * wy * wz / Mt;
 }
 
-// Reduction to (-pi, pi] (inertial angles) or [-pi, pi] (local angles).
-double reduit_inertiel(double x) {
-    x = reduit_tour(x);
-    if (x > PI) x -= DEUX_PI;
-    if (x <= -PI) x += DEUX_PI;
-    return x;
-}
-
 // Of the nine quarter-turn shifts of x, the one nearest to prev (first wins).
 double plus_proche(double x, double prev) {
     const double candidats[9] = {x + DEUX_PI, x + PI + DEMI_PI, x + PI, x + DEMI_PI, x,
@@ -167,6 +159,42 @@ double plus_proche(double x, double prev) {
 }  // namespace
 
 double reduit_tour(double x) { return signe(x) * modulo(std::fabs(x), DEUX_PI); }
+
+double reduit_inertiel(double x) {
+    x = reduit_tour(x);
+    if (x > PI) x -= DEUX_PI;
+    if (x <= -PI) x += DEUX_PI;
+    return x;
+}
+
+double reduit_orbital(double x) {
+    x = reduit_tour(x);
+    if (x > PI) x -= DEUX_PI;
+    if (x < -PI) x += DEUX_PI;
+    return x;
+}
+
+void choix_tangage(Vec6& yd, const Vec3& s1, const Vec3& s2, double dt) {
+    Vec3 s3 = s2;
+    s3[1] -= DEUX_PI;
+    const Vec3* sols[3] = {&s1, &s2, &s3};
+    for (int t = 0; t < 3; ++t) {
+        double p = yd[4] * dt + yd[2];
+        double d[3];
+        for (int k = 0; k < 3; ++k) d[k] = std::fabs(p - (*sols[k])[1]);
+        if (d[t] <= d[(t + 1) % 3] && d[t] <= d[(t + 2) % 3]) {
+            yd[0] = (*sols[t])[0];
+            yd[2] = (*sols[t])[1];
+            yd[1] = (*sols[t])[2];
+        }
+    }
+}
+
+double taux_differences(double y, double q, double dt) {
+    bool saut = std::fabs(y - q) > 5.2359877;  // 300 deg
+    if (saut && signe(y) != signe(q)) q = q - 2 * signe(q) * PI;
+    return (y - q) / dt;
+}
 
 void attitude_step(Etat& etat, double dt, double date) {
     AttitudeRecord& a = etat.att;
@@ -226,45 +254,19 @@ void attitude_step(Etat& etat, double dt, double date) {
     sous_point(etat, date2, pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
 
     // orbital-frame angles from the inertial ones: two solutions (roll, pitch,
-    // yaw), and the second one a turn lower in pitch
+    // yaw), chosen by continuity of the pitch
     Vec3 s1, s2;
     euler_vers_inertiel(etat, Vec3{a.yi[0], a.yi[1], a.yi[2]}, s1, s2);
-    Vec3 s3 = s2;
-    s3[1] -= DEUX_PI;
     const double yd_prec[3] = {a.yd[0], a.yd[1], a.yd[2]};
+    choix_tangage(a.yd, s1, s2, dt);
+    a.yd[0] = reduit_orbital(a.yd[0]);
+    a.yd[2] = reduit_orbital(a.yd[2]);
+    a.yd[1] = reduit_orbital(a.yd[1]);
 
-    auto prend = [&a](const Vec3& s) {
-        a.yd[0] = s[0];
-        a.yd[2] = s[1];
-        a.yd[1] = s[2];
-    };
-    // pitch continuity: each test predicts from yd as the previous test left it
-    const Vec3* sols[3] = {&s1, &s2, &s3};
-    for (int t = 0; t < 3; ++t) {
-        double p = a.yd[4] * dt + a.yd[2];
-        double d[3];
-        for (int k = 0; k < 3; ++k) d[k] = std::fabs(p - (*sols[k])[1]);
-        if (d[t] <= d[(t + 1) % 3] && d[t] <= d[(t + 2) % 3]) prend(*sols[t]);
-    }
-
-    a.yd[0] = reduit_tour(a.yd[0]);
-    a.yd[2] = reduit_tour(a.yd[2]);
-    a.yd[1] = reduit_tour(a.yd[1]);
-    for (int i = 0; i < 3; ++i) {
-        if (a.yd[i] > PI) a.yd[i] -= DEUX_PI;
-        if (a.yd[i] < -PI) a.yd[i] += DEUX_PI;  // -pi itself stays
-    }
-
-    // finite-difference rates: element 0 -> yd(3), 2 -> yd(4), 1 -> yd(5)
-    constexpr int elements[3] = {0, 2, 1};
-    constexpr int taux[3] = {3, 4, 5};
-    for (int t = 0; t < 3; ++t) {
-        int e = elements[t];
-        double q = yd_prec[e];
-        bool saut = std::fabs(a.yd[e] - q) > 5.2359877;  // 300 deg
-        if (saut && signe(a.yd[e]) != signe(q)) q = q - 2 * signe(q) * PI;
-        a.yd[taux[t]] = (a.yd[e] - q) / dt;
-    }
+    // rates: element 0 -> yd(3), 2 -> yd(4), 1 -> yd(5)
+    a.yd[3] = taux_differences(a.yd[0], yd_prec[0], dt);
+    a.yd[4] = taux_differences(a.yd[2], yd_prec[2], dt);
+    a.yd[5] = taux_differences(a.yd[1], yd_prec[1], dt);
     quat_refresh(etat);
 }
 

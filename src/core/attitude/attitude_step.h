@@ -7,6 +7,7 @@
 // kg) drop their row and column. Angles are then carried forward: inertial
 // Euler angles yi, and the local-orbital angles yd found from them.
 #pragma once
+#include "core/shell/types.h"
 
 namespace kestrel {
 
@@ -20,5 +21,19 @@ void attitude_step(Etat& etat, double dt, double date);
 
 // One turn by sign and real modulo: sign(x) (|x| mod 2 pi), rad.
 double reduit_tour(double x);
+// reduit_tour, then into (-pi, pi]: -pi itself turns to +pi (inertial angles).
+double reduit_inertiel(double x);
+// reduit_tour, then into [-pi, pi]: -pi itself stays (local-orbital angles).
+double reduit_orbital(double x);
+
+// Of the two local-orbital solutions s1, s2 (roll, pitch, yaw) and s3 = s2 a
+// turn lower in pitch, three tests in order each take the one nearest in pitch
+// to yd(4) dt + yd(2), that prediction made from yd as the test before left
+// it. Taking one writes yd(0) roll, yd(2) pitch, yd(1) yaw.
+void choix_tangage(Vec6& yd, const Vec3& s1, const Vec3& s2, double dt);
+
+// Finite-difference rate of an angle from its previous value q (rad, rad/s).
+// A jump over 300 deg between angles of opposite signs counts as a wrap of q.
+double taux_differences(double y, double q, double dt);
 
 }  // namespace kestrel

@@ -10,19 +10,18 @@ namespace kestrel {
 
 namespace {
 
-// Co-rotation of the upper air relative to the Earth's rate, by altitude (km).
-double facteur_vent(double alt) {
-    if (alt < 400) return ((alt - 100) * 0.4 / 300) + 1;
-    if (alt <= 600) return 1.4;
-    return 1.4 - ((alt - 600) * 0.4 / 200);
-}
-
 void coupe_petits(Vec3& c) {
     for (double& x : c)
         if (std::fabs(x) <= 1e-10) x = 0;
 }
 
 }  // namespace
+
+double facteur_vent(double alt) {
+    if (alt < 400) return ((alt - 100) * 0.4 / 300) + 1;
+    if (alt <= 600) return 1.4;
+    return 1.4 - ((alt - 600) * 0.4 / 200);
+}
 
 void couple_aero(Etat& etat, double date) {
     Vec3& c = etat.att.c_aero;

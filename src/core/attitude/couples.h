@@ -11,6 +11,9 @@ struct Etat;
 // (3 mu / r³) n x (J n): n the unit position in body axes, r in km, J the
 // total inertia with its products negated. Writes c_gravite.
 void couple_gravite(Etat& etat);
+// Co-rotation of the upper air as a multiple of the Earth's rate, by altitude
+// (km): 1 at 100 km, rising to 1.4 from 400 to 600 km, back to 1 at 800 km.
+double facteur_vent(double alt);
 // Free-molecular flow on the six faces, air turning with the Earth (rate
 // scaled by a wind factor of altitude). Writes c_aero. A missing data table
 // records CodeErreur::fichier_donnees in etat.faute and gives 0.

@@ -156,9 +156,67 @@ TEST(Reduction, MoinsPiRameneAPlusPiPourYi) {
     attitude_init(e);
     avance(e, 1.0, 1);
     EXPECT_EQ(e.att.yi[0], PI);
+}
+
+TEST(Reduction, UnTourParSigneEtModulo) {
+    // sign kept, magnitude mod 2 pi (2 pi = 6.28318530717958)
     EXPECT_EQ(reduit_tour(-PI), -PI);
     EXPECT_EQ(reduit_tour(DEUX_PI + 1.0), 1.0);
     EXPECT_EQ(reduit_tour(-(DEUX_PI + 1.0)), -1.0);
+    // -pi: inertial angles fold it to +pi, local-orbital ones keep it
+    EXPECT_EQ(reduit_inertiel(-PI), PI);
+    EXPECT_EQ(reduit_orbital(-PI), -PI);
+    EXPECT_EQ(reduit_orbital(PI), PI);
+    // 4 > pi: 4 - 6.28318530717958 = -2.28318530717958
+    EXPECT_NEAR(reduit_inertiel(4.0), -2.28318530717958, 1e-14);
+    EXPECT_NEAR(reduit_orbital(4.0), -2.28318530717958, 1e-14);
+    // -(pi + 0.5) < -pi: + 2 pi gives 2.64159265358979
+    EXPECT_NEAR(reduit_orbital(-(PI + 0.5)), 2.64159265358979, 1e-14);
+    EXPECT_NEAR(reduit_inertiel(-(PI + 0.5)), 2.64159265358979, 1e-14);
+}
+
+TEST(ChoixTangage, TroisTestsEnChaine) {
+    // yd(4) dt = 1, yd(2) = -1: the first prediction 0 takes s1 (pitch 0,
+    // distances 0 / 0.9 / 5.38); the second test predicts from that pitch,
+    // 1 + 0 = 1, and takes s2 (pitch 0.9, distance 0.1 against 1); the third,
+    // 1.9 against 0.9 - 2 pi, takes nothing
+    Vec6 yd{9, 9, -1, 0, 0.5, 0};
+    const Vec3 s1{0.1, 0.0, 0.3}, s2{0.4, 0.9, 0.6};
+    choix_tangage(yd, s1, s2, 2.0);
+    EXPECT_EQ(yd[0], 0.4);  // roll
+    EXPECT_EQ(yd[2], 0.9);  // pitch
+    EXPECT_EQ(yd[1], 0.6);  // yaw
+    EXPECT_EQ(yd[4], 0.5);  // rates untouched
+}
+
+TEST(ChoixTangage, DeuxiemeSolutionUnTourPlusBas) {
+    // prediction -3: s1 pitch 0 (3), s2 pitch 3 (6), s3 pitch 3 - 2 pi =
+    // -3.28318530717958 (0.283): s3 taken, its pitch not yet folded
+    Vec6 yd{0, 0, -3, 0, 0, 0};
+    choix_tangage(yd, Vec3{1, 0, 2}, Vec3{-1, 3, -2}, 1.0);
+    EXPECT_EQ(yd[0], -1.0);
+    EXPECT_NEAR(yd[2], -3.28318530717958, 1e-14);
+    EXPECT_EQ(yd[1], -2.0);
+    // a tie goes to the earlier test: s1 and s2 both 1 away, then s1's own
+    // prediction (0 + 0) keeps s1 nearest
+    Vec6 ze{0, 0, 0, 0, 0, 0};
+    choix_tangage(ze, Vec3{1, -1, 1}, Vec3{2, 1, 2}, 1.0);
+    EXPECT_EQ(ze[0], 1.0);
+    EXPECT_EQ(ze[2], -1.0);
+}
+
+TEST(TauxDifferences, SautDePlusDe300Degres) {
+    // plain difference: (0.1 - (-0.1)) / 0.5 = 0.4
+    EXPECT_NEAR(taux_differences(0.1, -0.1, 0.5), 0.4, 1e-15);
+    // 3.1 after -3.1: 6.2 rad > 5.2359877 and the signs differ, q := -3.1 + 2 pi
+    // = 3.18318530717958, rate (3.1 - 3.18318530717958) / 2 = -0.04159265358979
+    EXPECT_NEAR(taux_differences(3.1, -3.1, 2.0), -0.04159265358979, 1e-13);
+    EXPECT_NEAR(taux_differences(-3.1, 3.1, 2.0), 0.04159265358979, 1e-13);
+    // 5.2 rad (298 deg) is no jump: 5.2 / 1
+    EXPECT_NEAR(taux_differences(2.6, -2.6, 1.0), 5.2, 1e-15);
+    // over 300 deg with the same sign (not reachable after the fold, but the
+    // guard wants both): no correction, (-0.1 - (-5.5)) / 1 = 5.4
+    EXPECT_NEAR(taux_differences(-0.1, -5.5, 1.0), 5.4, 1e-14);
 }
 
 }  // namespace
