@@ -1,5 +1,6 @@
 #include "core/attitude/atmosphere.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -143,19 +144,14 @@ double densite(const TablesAtmosphere& t, double T, double alt) {
     if (alt < 100) return 3.43e-06;
     if (alt >= 2500) return 0.0;
     const auto& L = t.lignes;
-    // walk up from the first line until [a1, a2] holds alt; the end of the table
-    // leaves the last bracket
-    std::size_t bas = 0;
-    std::size_t haut = 1;
-    while (haut < L.size()) {
-        if (alt <= L[haut].alt) break;
-        bas = haut;
-        ++haut;
-    }
-    if (haut == L.size()) {
-        haut = L.size() - 1;
-        bas = haut - 1;
-    }
+    // the bracket [a1, a2] holding alt: the first line from the second on with
+    // alt <= a2 (the rising table is searched by halves); past the end of the
+    // table, the last bracket
+    auto it = std::lower_bound(L.begin() + 1, L.end(), alt,
+                               [](const TablesAtmosphere::Ligne& l, double x) { return l.alt < x; });
+    std::size_t haut = static_cast<std::size_t>(it - L.begin());
+    if (haut == L.size()) haut = L.size() - 1;
+    std::size_t bas = haut - 1;
     const auto& a = L[bas];
     const auto& b = L[haut];
     double f = (alt - a.alt) / (b.alt - a.alt);

@@ -29,8 +29,9 @@ constexpr const char* EN_TETE[25] = {
     "om(1) * (180 / pi)",  "om(2) * (180 / pi)",    "ctot(0)",               "ctot(1)",
     "ctot(2)"};
 
-// Owns the FILE and its large buffer; every number goes through to_chars into
-// a stack buffer, so writing a record allocates nothing.
+// Owns the FILE and its large buffer. A line is built in a fixed array, each
+// number through to_chars, and goes to the file in one write: a record
+// allocates nothing and takes the stream's lock once.
 class Ecrivain {
 public:
     explicit Ecrivain(const std::string& chemin) {
@@ -51,23 +52,46 @@ public:
     bool ok() const { return ok_ && f_ && !std::ferror(f_); }
 
     void texte(const char* s) {
-        std::fputc('"', f_);
-        std::fputs(s, f_);
-        std::fputc('"', f_);
+        place(1);
+        ligne_[n_++] = '"';
+        for (; *s; ++s) {
+            place(2);
+            ligne_[n_++] = *s;
+        }
+        ligne_[n_++] = '"';
     }
     void nombre(double x) {
-        char b[32];
-        auto r = std::to_chars(b, b + sizeof b, x);
-        std::fwrite(b, 1, static_cast<std::size_t>(r.ptr - b), f_);
+        place(32);
+        auto r = std::to_chars(ligne_ + n_, ligne_ + n_ + 32, x);
+        n_ = static_cast<std::size_t>(r.ptr - ligne_);
     }
-    void virgule() { std::fputc(',', f_); }
-    void fin_ligne() { std::fputs("\r\n", f_); }
+    void virgule() {
+        place(1);
+        ligne_[n_++] = ',';
+    }
+    void fin_ligne() {
+        place(2);
+        ligne_[n_++] = '\r';
+        ligne_[n_++] = '\n';
+        vide();
+    }
 
 private:
+    // room for k more characters in the line, writing out what it holds if needed
+    void place(std::size_t k) {
+        if (n_ + k > sizeof ligne_) vide();
+    }
+    void vide() {
+        std::fwrite(ligne_, 1, n_, f_);
+        n_ = 0;
+    }
+
     static constexpr std::size_t TAILLE = 1 << 16;
     std::unique_ptr<char[]> tampon_{new char[TAILLE]};
     std::FILE* f_ = nullptr;
     bool ok_ = true;
+    char ligne_[1024];
+    std::size_t n_ = 0;
 };
 
 void ecrit_record(Ecrivain& w, const Etat& etat, double j, bool roues_actives) {

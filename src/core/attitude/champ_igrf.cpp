@@ -39,19 +39,37 @@ CoefficientsIgrf coefficients_igrf(double date) {
     return c;
 }
 
-Vec3 champ_igrf(double date, double r, double colatitude, double longitude) {
-    constexpr int N = IGRF_DEGRE;
-    CoefficientsIgrf c = coefficients_igrf(date);
+namespace {
 
-    // Schmidt to Gauss normalisation factors; the coefficients take them so
-    // that the Gauss-normalised Legendre recurrences below give the usual sums.
-    double S[N + 1][N + 1] = {};
+using Facteurs = std::array<std::array<double, IGRF_DEGRE + 1>, IGRF_DEGRE + 1>;
+
+// Schmidt to Gauss normalisation factors; the coefficients take them so that
+// the Gauss-normalised Legendre recurrences give the usual sums. Fixed, so
+// worked out once.
+Facteurs calcule_facteurs() {
+    constexpr int N = IGRF_DEGRE;
+    Facteurs S{};
     S[0][0] = 1;
     for (int n = 1; n <= N; ++n) {
         S[n][0] = S[n - 1][0] * (2 * n - 1) / n;
         S[n][1] = S[n][0] * std::sqrt(n * 2.0 / (n + 1));
         for (int m = 2; m <= n; ++m) S[n][m] = S[n][m - 1] * std::sqrt(double(n - m + 1) / (n + m));
     }
+    return S;
+}
+
+const Facteurs& facteurs_schmidt() {
+    static const Facteurs S = calcule_facteurs();
+    return S;
+}
+
+}  // namespace
+
+Vec3 champ_igrf(double date, double r, double colatitude, double longitude) {
+    constexpr int N = IGRF_DEGRE;
+    CoefficientsIgrf c = coefficients_igrf(date);
+
+    const auto& S = facteurs_schmidt();
     for (int n = 1; n <= N; ++n)
         for (int m = 0; m <= n; ++m) {
             c.g[n][m] *= S[n][m];
