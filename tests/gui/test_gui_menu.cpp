@@ -211,6 +211,13 @@ void TestMenu::entrees_sans_fenetre_desactivees() {
     QCOMPARE(entree("mn_fichier_enregsous")->text(), QStringLiteral("  Enregistrer sous..."));
     QCOMPARE(b.ctrl<QMenu>("mn_pow")->title(), QStringLiteral("Sytème énergie"));
     QCOMPARE(entree("mn_sim_car")->text(), QStringLiteral("Orbite/Attitude"));
+    QCOMPARE(b.ctrl<QMenu>("mn_orbito")->title(), QStringLiteral("Orbitographie/Environnement"));
+    // The commands under the two label entries keep their two leading blanks.
+    QCOMPARE(entree("mn_fichier_ouvrir")->text(), QStringLiteral("  Ouvrir un projet"));
+    QCOMPARE(entree("mn_attfich_enreg")->text(), QStringLiteral("  Enregistrer le projet"));
+    // Entries sit in their sub-menu, the sub-menu in its heading.
+    QVERIFY(b.ctrl<QMenu>("mn_pow_conf")->actions().contains(entree("mn_conf_pow_rad")));
+    QVERIFY(b.ctrl<QMenu>("mn_att")->actions().contains(b.ctrl<QMenu>("mn_att_exp")->menuAction()));
 
     // A disabled entry's keys are disabled with it, and come on when it is given a command.
     QVERIFY(!entree("mn_sim_car")->isEnabled());
@@ -242,9 +249,26 @@ void TestMenu::touches_renvoient_au_menu() {
     QCOMPARE(cles("Toolbar_att"), (QStringList{"open", "save", "masses", "proprietes", "actuators",
                                                "gestatt", "simulation", "expatt"}));
     QCOMPARE(b.ctrl<QGroupBox>("fra_orbito")->title(), QStringLiteral("Orbito"));
-    QCOMPARE(b.cle("Toolbar_att", "open")->toolTip(),
-             QStringLiteral("Ouvrir un projet pour le sous-système attitude"));
-    QCOMPARE(b.cle("Toolbar_power", "open")->toolTip(), QStringLiteral("Ouvrir un fichier énergie"));
+    QCOMPARE(b.ctrl<QGroupBox>("fra_energie")->title(), QStringLiteral("Energie"));
+    QCOMPARE(b.ctrl<QGroupBox>("fra_attitude")->title(), QStringLiteral("Contrôle d'attitude"));
+    // The tooltips the keys must carry word for word.
+    struct Bulle {
+        const char* barre;
+        const char* cle;
+        const char* texte;
+    };
+    for (const Bulle& t : {Bulle{"Toolbar_att", "open", "Ouvrir un projet pour le sous-système attitude"},
+                           Bulle{"Toolbar_att", "save", "Enregistrer le projet du sous-système attitude"},
+                           Bulle{"Toolbar_att", "masses", "Masse/Géométrie"},
+                           Bulle{"Toolbar_att", "proprietes", "Propriétés satellite"},
+                           Bulle{"Toolbar_att", "actuators", "Définir les actionneurs"},
+                           Bulle{"Toolbar_att", "gestatt", "Gestion du sous-système"},
+                           Bulle{"Toolbar_att", "simulation", "Simulation"},
+                           Bulle{"Toolbar_att", "expatt", "Exploitation des données"},
+                           Bulle{"Toolbar_orb", "orbite", "Définir l'orbite"},
+                           Bulle{"Toolbar_orb", "envir", "Définir l'environnement"},
+                           Bulle{"Toolbar_power", "open", "Ouvrir un fichier énergie"}})
+        QCOMPARE(b.cle(t.barre, t.cle)->toolTip(), QString::fromUtf8(t.texte));
 
     // "open" means the energy project in one toolbar, the attitude one in the other.
     b.dlg.chemins = {QString(), QString(), QString()};
