@@ -119,6 +119,36 @@ TEST(Amortisseurs, UnAmortisseurActifDissipeLEnergie) {
     EXPECT_EQ(amorti.att.z[2], 0.0);
 }
 
+TEST(Amortisseurs, ChaqueAmortisseurSeulSurSesLigneEtColonne) {
+    // Body at rest, damper i alone (m = 1 kg, lever l = 0.5 m, k = 2 N/m) held
+    // out at a = 0.1 m, Mt = 52 kg. With no rates only the spring a k stands in
+    // the free terms, and the reduced system couples the damper with one axis:
+    //   I' w' - m l zdd = 0,  -m l w' + m (1 - m / Mt) zdd = -a k
+    //   zdd = -a k / (m (1 - m / Mt) - m² l² / I'),  w' = m l zdd / I'
+    // damper 0 (slides on z at x = l) turns about y, I' = Iyy + m a² = 3.01;
+    // damper 1 (on x at y = l) about z, I' = Izz + m a² - m² a / Mt = 4.0080769;
+    // damper 2 (on y at z = l) about x, I' = Ixx + m a² - m² a² / Mt = 2.0098077.
+    // One step of 1 s: zd = zdd, z = a + zd + zdd / 2 = a + 1.5 zdd.
+    const double m = 1, l = 0.5, a = 0.1, k = 2, Mt = 52;
+    const int axe[3] = {1, 2, 0};
+    const double Ip[3] = {3 + m * a * a, 4 + m * a * a - m * m * a / Mt, 2 + m * a * a - m * m * a * a / Mt};
+    for (int i = 0; i < 3; ++i) {
+        Etat e = corps_libre({0, 0, 0});
+        e.att.Mt = Mt;
+        e.att.md[i] = m;
+        e.att.ld[i] = l;
+        e.att.k[i] = k;
+        e.att.z[i] = a;
+        avance(e, 1.0, 1);
+        const double zdd = -a * k / (m * (1 - m / Mt) - m * m * l * l / Ip[i]);
+        for (int j = 0; j < 3; ++j) {
+            EXPECT_NEAR(e.att.zdd[j], j == i ? zdd : 0.0, 1e-9) << i << " " << j;
+            EXPECT_NEAR(e.att.omega[3 + j], j == axe[i] ? m * l * zdd / Ip[i] : 0.0, 1e-9) << i << " " << j;
+        }
+        EXPECT_NEAR(e.att.z[i], a + 1.5 * zdd, 1e-9) << i;
+    }
+}
+
 TEST(Amortisseurs, SansMasseLeSystemeReste3x3) {
     // springs and viscosity set but masses 0 or exactly 1e-21: nothing moves
     Etat e = corps_libre({0.05, 0.02, 0.5});
