@@ -14,4 +14,12 @@ double alpha(const PowerRecord& p, float t, float a0, float alim, int32_t t99) {
     return alim * (1 - q * std::exp(taux * heures));
 }
 
+double alpha_memo(PowerRecord& p, int slot, float t, float a0, float alim, int32_t t99) {
+    PowerRecord::AlphaMemo& m = p.alpha_memo[slot];
+    if (!(m.valide && m.t == t && m.a0 == a0 && m.alim == alim && m.t99 == t99 && m.date_cell == p.date_cell)) {
+        m = {t, a0, alim, t99, p.date_cell, alpha(p, t, a0, alim, t99), true};
+    }
+    return m.valeur;
+}
+
 }  // namespace kestrel

@@ -15,9 +15,16 @@ constexpr double RAYON_TERRE = 6378.137;  // km
 
 // Angle between the normal (a, b) and the unit direction (z, sxy, az).
 // The clamp only absorbs rounding past +-1.
-double incidence(double a, double b, double z, double sxy, double az) {
-    const double c = std::sin(a) * z + sxy * std::cos(a) * std::cos(az - b);
+double incidence(const Normale& n, double z, double sxy, double az) {
+    const double c = n.sin_a * z + sxy * n.cos_a * std::cos(az - n.b);
     return std::acos(std::clamp(c, -1.0, 1.0));
+}
+
+double incidence(double a, double b, double z, double sxy, double az) { return incidence(normale(a, b), z, sxy, az); }
+
+double direct(const PowerRecord& p, double inc_soleil) {
+    const double c = std::cos(inc_soleil);
+    return (p.eclipse != VRAI && c > 0) ? p.flux_sun * c : 0.0;
 }
 
 // Parabola A t² + B t + C that takes over from the cosine at d and ends at m (rad).
@@ -36,6 +43,8 @@ Parabole parabole(const PowerRecord& p) {
 }
 
 }  // namespace
+
+Normale normale(double a, double b) { return {a, std::sin(a), std::cos(a), b}; }
 
 double incidence_sun(const Etat& etat, double a, double b) {
     const PowerRecord& p = etat.pwr;
@@ -77,9 +86,7 @@ double cell_flux(const Etat& etat, double a, double b) {
 }
 
 double solar_flux_direct(const Etat& etat, double a, double b) {
-    const PowerRecord& p = etat.pwr;
-    const double c = std::cos(incidence_sun(etat, a, b));
-    return (p.eclipse != VRAI && c > 0) ? p.flux_sun * c : 0.0;
+    return direct(etat.pwr, incidence_sun(etat, a, b));
 }
 
 double albedo_flux(Etat& etat, double a, double b) {
@@ -96,20 +103,35 @@ double earth_ir_flux(Etat& etat, double a, double b) {
     return earth_view_factor(etat, deg) * etat.pwr.flux_ir;
 }
 
-double earth_view_factor(Etat& etat, double deg) {
-    const double r = vec_norme(etat.orb.sat_pos);
+VueTerre vue_terre(Etat& etat) {
+    const double r = vec_norme(etat.orb.sat_pos);  // km
     const double s = RAYON_TERRE / r;
     etat.pwr.earth_half = std::asin(s);
     const double rho = etat.pwr.earth_half;
-    const double L = std::log(r - RAYON_TERRE);
-    const double f0 = (0.664 + 0.521 * rho - 0.203 * rho * rho) * std::sin(rho) * std::sin(rho);
+    VueTerre v;
+    v.L = std::log(r - RAYON_TERRE);
+    v.f0 = (0.664 + 0.521 * rho - 0.203 * rho * rho) * std::sin(rho) * std::sin(rho);
+    return v;
+}
+
+double facteur_vue(const VueTerre& v, double deg) {
+    const double L = v.L;
     double f;
     if (deg < 90)
-        f = f0 * ((1 - 0.0031 * deg) - L * deg * (0.0668 / 90));
+        f = v.f0 * ((1 - 0.0031 * deg) - L * deg * (0.0668 / 90));
     else
-        f = f0 * ((2.395 - 0.02345 * deg + 5.367e-05 * deg * deg) -
-                  L * (0.1091 - 2.833e-06 * deg * deg - 0.000215 * deg));
+        f = v.f0 * ((2.395 - 0.02345 * deg + 5.367e-05 * deg * deg) -
+                    L * (0.1091 - 2.833e-06 * deg * deg - 0.000215 * deg));
     return f < 0.001 ? 0.0 : f;
+}
+
+double earth_view_factor(Etat& etat, double deg) { return facteur_vue(vue_terre(etat), deg); }
+
+FluxSurface flux_surface(const Etat& etat, const VueTerre& v, const Normale& n) {
+    const PowerRecord& p = etat.pwr;
+    const double deg = incidence(n, p.nad_z, p.nad_sxy, p.nad_az) * 180.0 / PI;
+    const double f = facteur_vue(v, deg);
+    return {direct(p, incidence(n, p.sun_z, p.sun_sxy, p.sun_az)) + f * p.flux_alb, f * p.flux_ir};
 }
 
 }  // namespace kestrel

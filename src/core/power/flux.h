@@ -24,4 +24,25 @@ double earth_ir_flux(Etat& etat, double a, double b);
 // 0.001. Refreshes earth_half from the satellite's distance.
 double earth_view_factor(Etat& etat, double deg);
 
+// The view factor's geometry depends only on the satellite's position: built
+// once per step (refreshing earth_half), then read for every surface.
+struct VueTerre {
+    double f0;  // view factor of a surface facing nadir, before the angle terms
+    double L;   // natural log of the altitude in km
+};
+VueTerre vue_terre(Etat& etat);
+double facteur_vue(const VueTerre& v, double deg);
+
+// A surface of normal (a, b) with sin a and cos a taken once; sa is
+// solar_albedo_flux and ir earth_ir_flux, sharing one Earth incidence and one
+// view factor. Same values as the separate functions.
+struct Normale {
+    double a, sin_a, cos_a, b;
+};
+Normale normale(double a, double b);
+struct FluxSurface {
+    double sa, ir;  // W/m²
+};
+FluxSurface flux_surface(const Etat& etat, const VueTerre& v, const Normale& n);
+
 }  // namespace kestrel

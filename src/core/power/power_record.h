@@ -155,6 +155,18 @@ struct PowerRecord {
     // Set when bat_v_charge trapped a numeric failure; the caller shows the
     // message once and clears it.
     bool alerte_charge = false;
+
+    // Absorptivities already computed, slot by surface (external: 0..7,
+    // faces and cylinder: 0..2); reused while the single-precision date and
+    // the coating's settings are the same, as the date changes only every few
+    // minutes of simulated time.
+    struct AlphaMemo {
+        float t = 0, a0 = 0, alim = 0;
+        int32_t t99 = 0, date_cell = 0;
+        double valeur = 0;
+        bool valide = false;
+    };
+    std::array<AlphaMemo, 8> alpha_memo{};
 };
 
 }  // namespace kestrel

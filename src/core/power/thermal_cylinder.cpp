@@ -22,32 +22,47 @@ void thermal_cylinder(Etat& etat) {
     const double disque = PI * p.body_width * p.body_width / 4;  // m²
 
     std::array<double, 3> al{};
-    for (int j = 0; j < 3; ++j) al[j] = alpha(p, t, p.fac_alpha0[j], p.fac_alpha_lim[j], p.fac_t99[j]);
+    for (int j = 0; j < 3; ++j) al[j] = alpha_memo(p, j, t, p.fac_alpha0[j], p.fac_alpha_lim[j], p.fac_t99[j]);
 
-    // The strips' fluxes depend only on the step's directions: computed once.
+    // The fluxes depend only on the step's directions, not on the
+    // temperatures: the same in every pass, so computed once.
+    const VueTerre vue = vue_terre(etat);
     std::array<double, 38> absorbe{};
     for (int i = 0; i < 36; ++i) {
-        const double b = (i * 10 + 5) * DEG_RAD;
-        absorbe[i] = al[0] * solar_albedo_flux(etat, 0, b) + p.fac_eps[0] * earth_ir_flux(etat, 0, b);
+        const FluxSurface f = flux_surface(etat, vue, normale(0, (i * 10 + 5) * DEG_RAD));
+        absorbe[i] = al[0] * f.sa + p.fac_eps[0] * f.ir;
     }
-    absorbe[36] = al[1] * solar_albedo_flux(etat, DEMI_PI, 0) + p.fac_eps[1] * earth_ir_flux(etat, DEMI_PI, 0);
-    absorbe[37] = al[2] * solar_albedo_flux(etat, -DEMI_PI, 0) + p.fac_eps[2] * earth_ir_flux(etat, -DEMI_PI, 0);
+    const FluxSurface haut = flux_surface(etat, vue, normale(DEMI_PI, 0));
+    const FluxSurface bas = flux_surface(etat, vue, normale(-DEMI_PI, 0));
+    absorbe[36] = al[1] * haut.sa + p.fac_eps[1] * haut.ir;
+    absorbe[37] = al[2] * bas.sa + p.fac_eps[2] * bas.ir;
 
     const double emis0 = p.fac_eps[0] * SIGMA;
     const double cond0 = p.fac_cond[0], ray0 = SIGMA * p.fac_rad[0];
     const double tour = p.cyl_cond / bande;
     const double cap0 = static_cast<double>(p.fac_cp[0]) * p.fac_mass[0];
     const double cap_int = static_cast<double>(p.int_cp) * p.int_mass;
+    std::array<double, 3> emis{}, cond{}, ray{}, cap{};
+    for (int j = 1; j < 3; ++j) {
+        emis[j] = p.fac_eps[j] * SIGMA;
+        cond[j] = p.fac_cond[j];
+        ray[j] = SIGMA * p.fac_rad[j];
+        cap[j] = static_cast<double>(p.fac_cp[j]) * p.fac_mass[j];
+    }
+    const double disque_ray1 = disque * SIGMA * p.fac_rad[1];
+    const double disque_ray2 = disque * SIGMA * p.fac_rad[2];
+    const double chaleur = p.p_heat;
 
     int k = 1;
     const int n = passes_cylindre(etat.session.pas_sim, k);
-    auto& T = p.node_t;
+    // Temperatures worked on a local copy, written back after the loop.
+    std::array<double, 39> T = p.node_t;
     std::array<double, 39> T4{}, d{};
     for (int pas = 0; pas < n; ++pas) {
         for (int i = 0; i < 39; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
         const double Ti_ = T[38], T4i = T4[38];
 
-        double interne = p.p_heat;
+        double interne = chaleur;
         for (int i = 0; i < 36; ++i) {
             const int g = i == 0 ? 35 : i - 1;
             const int dr = i == 35 ? 0 : i + 1;
@@ -59,17 +74,17 @@ void thermal_cylinder(Etat& etat) {
         }
         for (int j = 1; j <= 2; ++j) {
             const int i = 35 + j;
-            double dj = absorbe[i] - p.fac_eps[j] * SIGMA * T4[i] + (Ti_ - T[i]) * p.fac_cond[j] +
-                        SIGMA * p.fac_rad[j] * (T4i - T4[i]);
-            d[i] = dj / (static_cast<double>(p.fac_cp[j]) * p.fac_mass[j]) * k;
+            const double dj = absorbe[i] - emis[j] * T4[i] + (Ti_ - T[i]) * cond[j] + ray[j] * (T4i - T4[i]);
+            d[i] = dj / cap[j] * k;
         }
-        interne -= ((Ti_ - T[37]) * p.fac_cond[2] + (Ti_ - T[36]) * p.fac_cond[1]) * disque;
-        interne -= disque * SIGMA * p.fac_rad[1] * (T4i - T4[36]);
-        interne -= disque * SIGMA * p.fac_rad[2] * (T4i - T4[37]);
+        interne -= ((Ti_ - T[37]) * cond[2] + (Ti_ - T[36]) * cond[1]) * disque;
+        interne -= disque_ray1 * (T4i - T4[36]);
+        interne -= disque_ray2 * (T4i - T4[37]);
         d[38] = interne / cap_int * k;
 
         for (int i = 0; i < 39; ++i) T[i] += d[i];
     }
+    p.node_t = T;
     p.t_bat = T[38] - 273.15;
 }
 

@@ -18,20 +18,29 @@ void thermal_ext_panels(Etat& etat) {
     const double b[8] = {PI, PI, 0 * PI / 2, 1 * PI / 2, 2 * PI / 2, 3 * PI / 2, 0, 0};
 
     // Absorbed-flux constant and radiation factor of each surface for the step.
+    const VueTerre vue = vue_terre(etat);
     std::array<double, 8> absorbe{}, emis{};
     for (int i = 0; i < 8; ++i) {
-        const double al = alpha(p, t, p.ext_alpha0[i], p.ext_alpha_lim[i], p.ext_t99[i]);
-        const double sa = solar_albedo_flux(etat, a[i], b[i]);
-        const double ir = earth_ir_flux(etat, a[i], b[i]);
-        absorbe[i] = al * sa + p.ext_eps[i] * ir;
+        const double al = alpha_memo(p, i, t, p.ext_alpha0[i], p.ext_alpha_lim[i], p.ext_t99[i]);
+        const FluxSurface f = flux_surface(etat, vue, normale(a[i], b[i]));
+        absorbe[i] = al * f.sa + p.ext_eps[i] * f.ir;
         emis[i] = p.ext_eps[i] * SIGMA;
     }
     const double perte_elec = p.pan_power[0] / p.ext_area;  // W/m²
     const double cap0 = static_cast<double>(p.ext_mass[0]) * p.ext_cp[0];
     std::array<double, 9> cap{};
     for (int i = 2; i < 9; ++i) cap[i] = static_cast<double>(p.ext_cp[i]) * p.ext_mass[i];
+    std::array<double, 6> cond{}, ray{};
+    for (int k = 0; k < 6; ++k) {
+        cond[k] = p.ext_cond[k];
+        ray[k] = SIGMA * p.ext_rad[k];
+    }
+    const double aire = p.body_face_area, chaleur = p.p_heat;
 
-    auto& T = p.node_t;
+    // Temperatures worked on a local copy, written back after the loop.
+    std::array<double, 9> T = {};
+    T[0] = p.node_t[0];
+    for (int i = 2; i < 9; ++i) T[i] = p.node_t[i];
     for (int pas = 0; pas < etat.session.pas_sim; ++pas) {
         std::array<double, 9> T4{}, d{};
         for (int i = 0; i < 9; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
@@ -41,15 +50,17 @@ void thermal_ext_panels(Etat& etat) {
         double interne = 0;
         for (int i = 2; i < 8; ++i) {
             const int k = i - 2;
-            const double echange = (T[8] - T[i]) * p.ext_cond[k] + SIGMA * p.ext_rad[k] * (T4[8] - T4[i]);
+            const double echange = (T[8] - T[i]) * cond[k] + ray[k] * (T4[8] - T4[i]);
             d[i] = ((absorbe[i] - emis[i] * T4[i]) + echange) / cap[i];
             interne -= echange;
         }
-        d[8] = (p.body_face_area * interne + p.p_heat) / cap[8];
+        d[8] = (aire * interne + chaleur) / cap[8];
 
         T[0] += d[0];
         for (int i = 2; i < 9; ++i) T[i] += d[i];
     }
+    p.node_t[0] = T[0];
+    for (int i = 2; i < 9; ++i) p.node_t[i] = T[i];
     p.t_bat = T[8] - 273.15;
 }
 

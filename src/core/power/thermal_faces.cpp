@@ -12,50 +12,65 @@ namespace kestrel {
 void thermal_faces(Etat& etat) {
     PowerRecord& p = etat.pwr;
     const float t = static_cast<float>(etat.session.j_courant);
-    const int n = p.nb_faces;
+    const int n = p.nb_faces < 8 ? p.nb_faces : 8;
     const double cote = static_cast<double>(p.body_width) * p.body_height;  // m², one face
     const double l2 = static_cast<double>(p.body_width) * p.body_width;
-    const double couvercle = p.opt_faces == 0 ? l2 : (n * l2 / 4) / std::tan(PI / n);  // m²
+    const double couvercle = p.opt_faces == 0 ? l2 : (p.nb_faces * l2 / 4) / std::tan(PI / p.nb_faces);  // m²
 
     std::array<double, 3> al{};
-    for (int j = 0; j < 3; ++j) al[j] = alpha(p, t, p.fac_alpha0[j], p.fac_alpha_lim[j], p.fac_t99[j]);
+    for (int j = 0; j < 3; ++j) al[j] = alpha_memo(p, j, t, p.fac_alpha0[j], p.fac_alpha_lim[j], p.fac_t99[j]);
 
     // Absorbed flux per node for the step: faces 0..n-1, top 8, bottom 9.
+    const VueTerre vue = vue_terre(etat);
     std::array<double, 10> absorbe{};
-    for (int i = 0; i < n && i < 8; ++i)
-        absorbe[i] = al[0] * solar_albedo_flux(etat, p.face_elev[i], p.face_azim[i]) +
-                     p.fac_eps[0] * earth_ir_flux(etat, p.face_elev[i], p.face_azim[i]);
-    absorbe[8] = al[1] * solar_albedo_flux(etat, DEMI_PI, 0) + p.fac_eps[1] * earth_ir_flux(etat, DEMI_PI, 0);
-    absorbe[9] = al[2] * solar_albedo_flux(etat, -DEMI_PI, 0) + p.fac_eps[2] * earth_ir_flux(etat, -DEMI_PI, 0);
+    for (int i = 0; i < n; ++i) {
+        const FluxSurface f = flux_surface(etat, vue, normale(p.face_elev[i], p.face_azim[i]));
+        absorbe[i] = al[0] * f.sa + p.fac_eps[0] * f.ir;
+    }
+    const FluxSurface haut = flux_surface(etat, vue, normale(DEMI_PI, 0));
+    const FluxSurface bas = flux_surface(etat, vue, normale(-DEMI_PI, 0));
+    absorbe[8] = al[1] * haut.sa + p.fac_eps[1] * haut.ir;
+    absorbe[9] = al[2] * bas.sa + p.fac_eps[2] * bas.ir;
 
     const double cap0 = static_cast<double>(p.fac_mass[0]) * p.fac_cp[0];
     const double cap_int = static_cast<double>(p.int_cp) * p.int_mass;
+    std::array<double, 3> emis{}, cond{}, ray{}, cap{};
+    for (int j = 0; j < 3; ++j) {
+        emis[j] = p.fac_eps[j] * SIGMA;
+        cond[j] = p.fac_cond[j];
+        ray[j] = SIGMA * p.fac_rad[j];
+        cap[j] = static_cast<double>(p.fac_mass[j]) * p.fac_cp[j];
+    }
+    const double chaleur = p.p_heat;
+    const double ray_couvercle = couvercle * SIGMA;
 
-    auto& T = p.node_t;
+    // Temperatures worked on a local copy, written back after the loop.
+    std::array<double, 11> T{};
+    for (int i = 0; i < 11; ++i) T[i] = p.node_t[i];
     std::array<double, 11> T4{}, d{};
     for (int pas = 0; pas < etat.session.pas_sim; ++pas) {
         for (int i = 0; i < 11; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
 
         double interne = 0;
-        for (int i = 0; i < n && i < 8; ++i) {
-            const double echange = (T[10] - T[i]) * p.fac_cond[0] + SIGMA * p.fac_rad[0] * (T4[10] - T4[i]);
-            d[i] = (absorbe[i] - p.fac_eps[0] * SIGMA * T4[i] + echange) / cap0;
+        for (int i = 0; i < n; ++i) {
+            const double echange = (T[10] - T[i]) * cond[0] + ray[0] * (T4[10] - T4[i]);
+            d[i] = (absorbe[i] - emis[0] * T4[i] + echange) / cap0;
             interne -= echange;
         }
         for (int j = 1; j <= 2; ++j) {
             const int i = 7 + j;
-            d[i] = (absorbe[i] - p.fac_eps[j] * SIGMA * T4[i] + (T[10] - T[i]) * p.fac_cond[j] +
-                    SIGMA * p.fac_rad[j] * (T4[10] - T4[i])) /
-                   (static_cast<double>(p.fac_mass[j]) * p.fac_cp[j]);
+            d[i] = (absorbe[i] - emis[j] * T4[i] + (T[10] - T[i]) * cond[j] + ray[j] * (T4[10] - T4[i])) / cap[j];
         }
         interne *= cote;
-        interne -= ((T[10] - T[9]) * p.fac_cond[2] + (T[10] - T[8]) * p.fac_cond[1]) * couvercle;
-        interne -= couvercle * SIGMA * ((T4[10] - T4[9]) * p.fac_rad[2] + (T4[10] - T4[8]) * p.fac_rad[1]);
-        d[10] = (p.p_heat + interne) / cap_int;
+        interne -= ((T[10] - T[9]) * cond[2] + (T[10] - T[8]) * cond[1]) * couvercle;
+        interne -= ray_couvercle * ((T4[10] - T4[9]) * p.fac_rad[2] + (T4[10] - T4[8]) * p.fac_rad[1]);
+        d[10] = (chaleur + interne) / cap_int;
 
-        for (int i = 0; i < n && i < 8; ++i) T[i] += d[i];
+        for (int i = 0; i < n; ++i) T[i] += d[i];
         for (int i = 8; i < 11; ++i) T[i] += d[i];
     }
+    for (int i = 0; i < n; ++i) p.node_t[i] = T[i];
+    for (int i = 8; i < 11; ++i) p.node_t[i] = T[i];
     // In this layout the battery does not follow the internal node.
     p.t_bat = 20.0;
 }

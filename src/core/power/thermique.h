@@ -14,6 +14,8 @@ constexpr double SIGMA = 5.67e-08;  // W/m²/K⁴
 // Absorptivity aged from a0 towards alim, 99 % of the way after t99 hours;
 // t is the date (day count) rounded to single precision.
 double alpha(const PowerRecord& p, float t, float a0, float alim, int32_t t99);
+// The same, kept in p.alpha_memo[slot] for the next step at the same float date.
+double alpha_memo(PowerRecord& p, int slot, float t, float a0, float alim, int32_t t99);
 
 // Nodes 0 panel, 2..7 body faces, 8 internal; t_bat follows node 8.
 void thermal_ext_panels(Etat& etat);
