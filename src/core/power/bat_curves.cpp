@@ -9,11 +9,18 @@
 
 namespace kestrel {
 
-PointCourbe point_courbe(const float pts[4][6], int j, double i, double t) {
-    const double l = std::log10(i);  // decades of current
-    const double dt = t - 25;        // curves are given at 25 °C
+namespace {
+// Point j with l = log10 of the current and dt = T - 25, shared by the four
+// points of one evaluation.
+PointCourbe point(const float pts[4][6], int j, double l, double dt) {
     const float* c = pts[j];
     return {(c[0] + c[1] * dt + c[2] * l) / 100, c[3] + c[4] * dt + c[5] * l};
+}
+}  // namespace
+
+PointCourbe point_courbe(const float pts[4][6], int j, double i, double t) {
+    // decades of current; curves are given at 25 °C
+    return point(pts, j, std::log10(i), t - 25);
 }
 
 double bat_cap_current(const PowerRecord& p, double i) {
@@ -31,22 +38,24 @@ double bat_cap_temp(const PowerRecord& p, double t) {
 double bat_v_discharge(const PowerRecord& p, double i, double t, double soc) {
     if (!(soc > 0)) return 0;
     const double x = 1 - soc;  // depth of discharge
-    const double x1 = std::clamp(point_courbe(p.de_pt, 1, i, t).x, 0.0, 1.0);
-    const double x2 = std::clamp(point_courbe(p.de_pt, 2, i, t).x, 0.0, 1.0);
-    const double v1 = point_courbe(p.de_pt, 1, i, t).y;
-    const double v2 = point_courbe(p.de_pt, 2, i, t).y;
+    const double l = std::log10(i), dt = t - 25;
+    const PointCourbe p1 = point(p.de_pt, 1, l, dt), p2 = point(p.de_pt, 2, l, dt);
+    const double x1 = std::clamp(p1.x, 0.0, 1.0);
+    const double x2 = std::clamp(p2.x, 0.0, 1.0);
+    const double v1 = p1.y;
+    const double v2 = p2.y;
     const double s = (v2 - v1) / (x2 - x1);
 
     double a, b, c;
     if (x < x1) {
-        const double v0 = point_courbe(p.de_pt, 0, i, t).y;
+        const double v0 = point(p.de_pt, 0, l, dt).y;
         a = ((x1 * s + v0) - v1) / x1 / x1;
         b = s - 2 * x1 * a;
         c = v0;
     } else if (x <= x2) {
         return (x - x1) * s + v1;
     } else {
-        const double v3 = point_courbe(p.de_pt, 3, i, t).y;
+        const double v3 = point(p.de_pt, 3, l, dt).y;
         a = ((v2 - v3) + (1 - x2) * s) / ((2 * x2 - 1) - x2 * x2);
         b = s - 2 * x2 * a;
         c = ((2 * x2 - 1) * a - s) + v3;
@@ -66,13 +75,15 @@ double bat_v_charge(Etat& etat, double i, double t, double soc) {
     double v = 0;
     if (!faute) {
         const double x = soc;
-        const double x1 = std::clamp(point_courbe(p.ch_pt, 1, i, t).x, 0.0, 1.0);
-        const double x2 = std::clamp(point_courbe(p.ch_pt, 2, i, t).x, 0.0, 1.0);
-        const double v1 = point_courbe(p.ch_pt, 1, i, t).y;
-        const double v2 = point_courbe(p.ch_pt, 2, i, t).y;
+        const double l = std::log10(i), dt = t - 25;
+        const PointCourbe p1 = point(p.ch_pt, 1, l, dt), p2 = point(p.ch_pt, 2, l, dt);
+        const double x1 = std::clamp(p1.x, 0.0, 1.0);
+        const double x2 = std::clamp(p2.x, 0.0, 1.0);
+        const double v1 = p1.y;
+        const double v2 = p2.y;
         const double s = div(v2 - v1, x2 - x1);
         if (x < x1) {
-            const double v0 = point_courbe(p.ch_pt, 0, i, t).y;
+            const double v0 = point(p.ch_pt, 0, l, dt).y;
             const double a = div(div((x1 * s + v0) - v1, x1), x1);
             const double b = s - 2 * x1 * a;
             v = a * x * x + b * x + v0;
@@ -81,7 +92,7 @@ double bat_v_charge(Etat& etat, double i, double t, double soc) {
         } else {
             // Cubic: value v2 and slope s at x2, value v3 and slope 0 at x3
             // (x3 is not clamped, and x beyond it stays on the cubic).
-            const PointCourbe p3 = point_courbe(p.ch_pt, 3, i, t);
+            const PointCourbe p3 = point(p.ch_pt, 3, l, dt);
             const double x3 = p3.x, v3 = p3.y;
             const double h = x2 - x3;
             const double a3 = div(s, h * h) - div(2 * (v2 - v3), h * h * h);

@@ -27,13 +27,23 @@ double direct(const PowerRecord& p, double inc_soleil) {
     return (p.eclipse != VRAI && c > 0) ? p.flux_sun * c : 0.0;
 }
 
-// Parabola A t² + B t + C that takes over from the cosine at d and ends at m (rad).
-struct Parabole {
-    double d, m, A, B, C;
-};
+// Sun and albedo on the cells through the law `cosinus` of the incidence.
+template <class F>
+double flux_cellule(const PowerRecord& p, const Normale& n, F&& cosinus) {
+    const double g = cosinus(incidence(n, p.sun_z, p.sun_sxy, p.sun_az));
+    const double soleil = (p.eclipse != VRAI && g > 0) ? p.flux_sun * g : 0.0;
+    // The albedo is taken as a point source at nadir under the same law.
+    const double h = cosinus(incidence(n, p.nad_z, p.nad_sxy, p.nad_az));
+    const double albedo = h > 0 ? p.flux_alb * h : 0.0;
+    return soleil + albedo;
+}
 
-Parabole parabole(const PowerRecord& p) {
-    Parabole q{};
+}  // namespace
+
+Normale normale(double a, double b) { return {a, std::sin(a), std::cos(a), b}; }
+
+LoiCellule loi_cellule(const PowerRecord& p) {
+    LoiCellule q{};
     q.d = p.inc_div * DEG_RAD;
     q.m = p.inc_max * DEG_RAD;
     q.A = (std::sin(q.d) * (q.m - q.d) - std::cos(q.d)) / ((q.m - q.d) * (q.m - q.d));
@@ -42,9 +52,16 @@ Parabole parabole(const PowerRecord& p) {
     return q;
 }
 
-}  // namespace
+double cell_cosine(const LoiCellule& q, double theta) {
+    if (theta <= q.d) return std::max(std::cos(theta), 0.0);
+    if (!(theta < q.m)) return 0.0;
+    const double g = q.A * theta * theta + q.B * theta + q.C;
+    return g < 0 ? 0 : g;
+}
 
-Normale normale(double a, double b) { return {a, std::sin(a), std::cos(a), b}; }
+double cell_flux(const Etat& etat, const LoiCellule& q, const Normale& n) {
+    return flux_cellule(etat.pwr, n, [&q](double theta) { return cell_cosine(q, theta); });
+}
 
 double incidence_sun(const Etat& etat, double a, double b) {
     const PowerRecord& p = etat.pwr;
@@ -59,14 +76,11 @@ double incidence_earth(const Etat& etat, double a, double b) {
 double cell_cosine(const Etat& etat, double theta) {
     // The parabola's coefficients cost two sines: built only when needed.
     if (theta <= etat.pwr.inc_div * DEG_RAD) return std::max(std::cos(theta), 0.0);
-    if (!(theta < etat.pwr.inc_max * DEG_RAD)) return 0.0;
-    const Parabole q = parabole(etat.pwr);
-    const double g = q.A * theta * theta + q.B * theta + q.C;
-    return g < 0 ? 0 : g;
+    return cell_cosine(loi_cellule(etat.pwr), theta);
 }
 
 double cell_cosine_derivee(const Etat& etat, double a, double b, double z, double sxy, double az) {
-    const Parabole q = parabole(etat.pwr);
+    const LoiCellule q = loi_cellule(etat.pwr);
     const double theta = incidence(a, b, z, sxy, az);
     // d(cos theta)/da
     const double u = std::cos(a) * z - sxy * std::sin(a) * std::cos(az - b);
@@ -76,13 +90,7 @@ double cell_cosine_derivee(const Etat& etat, double a, double b, double z, doubl
 }
 
 double cell_flux(const Etat& etat, double a, double b) {
-    const PowerRecord& p = etat.pwr;
-    const double g = cell_cosine(etat, incidence_sun(etat, a, b));
-    const double soleil = (p.eclipse != VRAI && g > 0) ? p.flux_sun * g : 0.0;
-    // The albedo is taken as a point source at nadir under the same law.
-    const double h = cell_cosine(etat, incidence_earth(etat, a, b));
-    const double albedo = h > 0 ? p.flux_alb * h : 0.0;
-    return soleil + albedo;
+    return flux_cellule(etat.pwr, normale(a, b), [&etat](double theta) { return cell_cosine(etat, theta); });
 }
 
 double solar_flux_direct(const Etat& etat, double a, double b) {

@@ -6,6 +6,7 @@
 namespace kestrel {
 
 struct Etat;
+struct PowerRecord;
 
 double incidence_sun(const Etat& etat, double a, double b);    // rad, 0..pi
 double incidence_earth(const Etat& etat, double a, double b);  // rad, towards the Earth centre
@@ -44,5 +45,14 @@ struct FluxSurface {
     double sa, ir;  // W/m²
 };
 FluxSurface flux_surface(const Etat& etat, const VueTerre& v, const Normale& n);
+
+// The cell law's parabola from inc_div and inc_max (rad), for a run of
+// surfaces in one step; cell_cosine and cell_flux through it.
+struct LoiCellule {
+    double d, m, A, B, C;
+};
+LoiCellule loi_cellule(const PowerRecord& p);
+double cell_cosine(const LoiCellule& q, double theta);
+double cell_flux(const Etat& etat, const LoiCellule& q, const Normale& n);
 
 }  // namespace kestrel

@@ -24,11 +24,11 @@ void generator_cylinder(Etat& etat) {
     PowerRecord& p = etat.pwr;
     // The strip area comes from the width alone; cell counts and height do not enter.
     const double bande = p.body_width * 0.17453292519943278;
+    const LoiCellule loi = loi_cellule(p);
     p.gen_power = 0;
     for (int i = 0; i < 36; ++i) {
         p.cell_eff[i] = cell_efficiency(etat, p.node_t[i]);
-        const double b = (i * 10 + 5) * DEG_RAD;
-        p.pan_power[i] = cell_flux(etat, 0, b) * p.cell_eff[i] * bande;
+        p.pan_power[i] = cell_flux(etat, loi, normale(0, (i * 10 + 5) * DEG_RAD)) * p.cell_eff[i] * bande;
         p.gen_power += p.pan_power[i];
     }
 }
@@ -36,10 +36,11 @@ void generator_cylinder(Etat& etat) {
 void generator_faces(Etat& etat) {
     PowerRecord& p = etat.pwr;
     const double aire = aire_cellules(p);
+    const LoiCellule loi = loi_cellule(p);
     p.gen_power = 0;
     for (int i = 0; i < p.nb_faces && i < 6; ++i) {
         p.cell_eff[i] = cell_efficiency(etat, p.node_t[i]);
-        p.pan_power[i] = p.cell_eff[i] * cell_flux(etat, p.face_elev[i], p.face_azim[i]) * aire;
+        p.pan_power[i] = p.cell_eff[i] * cell_flux(etat, loi, normale(p.face_elev[i], p.face_azim[i])) * aire;
         p.gen_power += p.pan_power[i];
     }
 }
