@@ -54,7 +54,7 @@ int montre(const OptionsProjet& o) {
         e = charge_energie(etat, o.fichier);
         champs = champs_energie(etat.pwr, etat.session);
     } else if (ext == "att") {
-        e = charge_attitude(etat, o.fichier);
+        e = lit_attitude(etat.att, o.fichier);  // the face centres as stored
         champs = champs_attitude(etat.att);
     } else if (ext == "orb") {
         e = charge_orbite(etat, o.fichier);

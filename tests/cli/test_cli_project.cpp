@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <string>
 
 #include "cli/outils_cli.h"
@@ -42,12 +43,22 @@ TEST(CliProject, NouveauPuisListe) {
     EXPECT_NE(sp.out.find("opt_panel_ext = -1\n"), std::string::npos);
     EXPECT_NE(sp.out.find("pas_sim = 120\n"), std::string::npos);
 
+    // The face centre of +x on x, 0.225 as written, made 9.0 (0x4022000000000000)
+    // in the file: the listing shows the file as stored, not a rebuilt table.
+    {
+        std::fstream f(att, std::ios::binary | std::ios::in | std::ios::out);
+        f.seekp(556 + 6);
+        f.write("\x22\x40", 2);
+        f.seekp(556);
+        f.write("\0\0\0\0\0\0", 6);
+    }
     const Resultat sa = lance("project show " + att.string());
     ASSERT_EQ(sa.code, 0);
     // 820 bytes = 101 reals of 8 bytes and 6 words of 2.
     EXPECT_EQ(std::count(sa.out.begin(), sa.out.end(), '\n'), 107);
     EXPECT_NE(sa.out.find("Masse = 50\n"), std::string::npos);
     EXPECT_NE(sa.out.find("I_corps(2,2) = 2.541\n"), std::string::npos);
+    EXPECT_NE(sa.out.find("face_c(0,0) = 9\n"), std::string::npos);
 
     const Resultat so = lance("project show " + orb.string());
     ASSERT_EQ(so.code, 0);

@@ -113,17 +113,22 @@ Erreur sauve_attitude(const Etat& etat, const std::string& chemin) {
                                 chemin);
 }
 
-Erreur charge_attitude(Etat& etat, const std::string& chemin) {
-    if (!lit_enregistrement(etat.att, disposition_attitude, TAILLE_ATTITUDE, chemin)) {
+Erreur lit_attitude(AttitudeRecord& a, const std::string& chemin) {
+    if (!lit_enregistrement(a, disposition_attitude, TAILLE_ATTITUDE, chemin)) {
         Erreur e;
         e.code = CodeErreur::lecture_attitude;
         e.detail = chemin;
         return e;
     }
+    return {};
+}
+
+Erreur charge_attitude(Etat& etat, const std::string& chemin) {
+    Erreur e = lit_attitude(etat.att, chemin);
     // Only the face table is rebuilt: Mt, I, cm_total and the run states
     // stay as the file held them.
-    faces_recalcul(etat.att);
-    return {};
+    if (!e) faces_recalcul(etat.att);
+    return e;
 }
 
 Erreur sauve_orbite(const Etat& etat, const std::string& chemin) {

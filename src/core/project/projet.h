@@ -9,6 +9,7 @@ namespace kestrel {
 
 struct Etat;
 struct PowerRecord;
+struct AttitudeRecord;
 
 // .pwr, power project (279 text lines, CR LF, Windows-1252). The load reads
 // into a copy and replaces etat's power record, environment and period only
@@ -26,6 +27,9 @@ void tableau_faces(PowerRecord& p);
 // .att, attitude project (one 820-byte little-endian record). A short file
 // reads as zeros past its end; the record is copied only after a good read.
 Erreur charge_attitude(Etat& etat, const std::string& chemin);
+// The record as the file holds it, with no recomputation (the face centres
+// stay as stored): what a listing of the file shows.
+Erreur lit_attitude(AttitudeRecord& a, const std::string& chemin);
 // Replaces the first 820 bytes; a longer old file keeps its tail.
 Erreur sauve_attitude(const Etat& etat, const std::string& chemin);
 
