@@ -114,9 +114,13 @@ double flux_solaire(const TablesAtmosphere& t, double date) {
 }
 
 double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt) {
+    return temperature_exo(t, date, lon, lat, alt, soleil_vecteur(date));
+}
+
+double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt,
+                       const Vec3& s) {
     double F = flux_solaire(t, date);
 
-    Vec3 s = soleil_vecteur(date);
     double rho = std::sqrt(s[0] * s[0] + s[1] * s[1]);
     double delta = arcsin_v(s[2] / rho);  // z / rho, not z / |s|: kept so
     double alpha = atan_quad(s[1] / rho, s[0] / rho);

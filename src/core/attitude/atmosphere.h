@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/shell/erreur.h"
+#include "core/shell/types.h"
 
 namespace kestrel {
 
@@ -43,6 +44,9 @@ double flux_solaire_sinus(double date);
 
 // K. date: days since 1950; lon, lat: rad (geodetic); alt: km.
 double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt);
+// The same with the Sun (km, inertial) already placed at `date`.
+double temperature_exo(const TablesAtmosphere& t, double date, double lon, double lat, double alt,
+                       const Vec3& soleil);
 
 // kg/m³ for exospheric temperature T (K) at altitude alt (km).
 double densite(const TablesAtmosphere& t, double T, double alt);

@@ -43,7 +43,7 @@ void couple_aero(Etat& etat, double date) {
     inertiel_vers_corps(etat, vrel, V);
     double v = vec_norme(V);  // km/s
 
-    double T = temperature_exo(*tables, date, etat.orb.sat_lon, etat.orb.sat_lat, alt);
+    double T = temperature_exo(*tables, date, etat.orb.sat_lon, etat.orb.sat_lat, alt, etat.orb.soleil_pos);
     double rho = densite(*tables, T, alt);
     double q = rho * 0.5 * v * v * 1e7;
 

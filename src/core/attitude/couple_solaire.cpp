@@ -4,7 +4,6 @@
 #include "core/attitude/faces.h"
 #include "core/etat.h"
 #include "core/orbit/matrices.h"
-#include "core/orbit/orb_projection.h"
 
 namespace kestrel {
 
@@ -13,7 +12,7 @@ void couple_solaire(Etat& etat, double date) {
     c = {};
     if (etat.orb.eclipse != FAUX) return;
 
-    Vec3 sol = soleil_vecteur(date);
+    const Vec3& sol = etat.orb.soleil_pos;  // placed at `date` with the orbit
     Vec3 d{sol[0] - etat.orb.sat_pos[0], sol[1] - etat.orb.sat_pos[1], sol[2] - etat.orb.sat_pos[2]};
     double l = vec_norme(d);
     Vec3 s{d[0] / l, d[1] / l, d[2] / l};

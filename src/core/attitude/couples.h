@@ -1,7 +1,8 @@
 // Disturbance torques on the satellite, body axes, N.m. Each model reads the
-// orbit state already brought to `date` (days since 1950) and turns its
-// vectors with inertiel_vers_corps, i.e. with the nominal pointing angles of
-// etat.pointage, never with the integrated attitude.
+// orbit state already brought to `date` (days since 1950), the Sun of
+// orb.soleil_pos included, and turns its vectors with inertiel_vers_corps,
+// i.e. with the nominal pointing angles of etat.pointage, never with the
+// integrated attitude.
 #pragma once
 
 namespace kestrel {

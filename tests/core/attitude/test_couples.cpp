@@ -15,16 +15,17 @@
 namespace kestrel {
 namespace {
 
+constexpr double DATE = 18000.25;
+
 Etat etat_test() {
     Etat e;
     e.session.dossier_depart = KESTREL_BIN_DIR;
     e.orb.sat_pos = {7000, 0, 0};
     e.orb.sat_vit = {0, 7.5, 0};
     e.orb.sat_alt = 600;
+    e.orb.soleil_pos = soleil_vecteur(DATE);
     return e;
 }
-
-constexpr double DATE = 18000.25;
 
 // --- gravity gradient ---------------------------------------------------------
 
