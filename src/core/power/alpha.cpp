@@ -10,8 +10,8 @@ double alpha(const PowerRecord& p, float t, float a0, float alim, int32_t t99) {
     const double q = 1.0 - static_cast<double>(a0) / alim;
     const double taux = -std::log(q * 100) / t99;  // 1/h
     // The date arrives in single precision: its rounding is part of the model.
-    const double heures = (static_cast<double>(t) - p.date_cell) * 24;
-    return alim * (1 - q * std::exp(taux * heures));
+    // (rate * days) * 24, in this order: it fixes the last bits.
+    return alim * (1 - q * std::exp(taux * (static_cast<double>(t) - p.date_cell) * 24));
 }
 
 double alpha_memo(PowerRecord& p, int slot, float t, float a0, float alim, int32_t t99) {

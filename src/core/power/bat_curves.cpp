@@ -99,7 +99,7 @@ double bat_v_charge(Etat& etat, double i, double t, double soc) {
             const double a2 = div(v2 - v3, h * h) - a3 * (x2 + 2 * x3);
             const double a1 = -3 * x3 * x3 * a3 - 2 * x3 * a2;
             const double a0 = v3 - a3 * x3 * x3 * x3 - a2 * x3 * x3 - a1 * x3;
-            v = ((a3 * x + a2) * x + a1) * x + a0;
+            v = a3 * x * x * x + a2 * x * x + a1 * x + a0;
         }
         if (!std::isfinite(v)) faute = true;
     }

@@ -31,7 +31,8 @@ void power_management(Etat& etat) {
             p.t_discharge = 0;
         } else {  // B: charge with the surplus
             const double surplus = ((pg - demande) / p.bat_ns) / p.bat_np;  // W per accumulator
-            double soc = p.bat_soc + dt * p.bat_i / (p.gst_k_recharge * 3600 * c);
+            // k * 3600 in double: the float setting is not rounded again here.
+            double soc = p.bat_soc + dt * p.bat_i / (static_cast<double>(p.gst_k_recharge) * 3600 * c);
             p.t_charge += static_cast<int32_t>(dt);
             if (soc >= 1) {
                 soc = 1;

@@ -39,7 +39,7 @@ void thermal_cylinder(Etat& etat) {
 
     const double emis0 = p.fac_eps[0] * SIGMA;
     const double cond0 = p.fac_cond[0], ray0 = SIGMA * p.fac_rad[0];
-    const double tour = p.cyl_cond / bande;
+    const double cyl_cond = p.cyl_cond;  // W/K
     const double cap0 = static_cast<double>(p.fac_cp[0]) * p.fac_mass[0];
     const double cap_int = static_cast<double>(p.int_cp) * p.int_mass;
     std::array<double, 3> emis{}, cond{}, ray{}, cap{};
@@ -67,7 +67,7 @@ void thermal_cylinder(Etat& etat) {
             const int g = i == 0 ? 35 : i - 1;
             const int dr = i == 35 ? 0 : i + 1;
             double di = absorbe[i] - emis0 * T4[i] + (Ti_ - T[i]) * cond0 + ray0 * (T4i - T4[i]);
-            di -= (2 * T[i] - T[g] - T[dr]) * tour;
+            di -= (2 * T[i] - T[g] - T[dr]) * cyl_cond / bande;
             d[i] = di / cap0 * k;
             interne -= (Ti_ - T[i]) * cond0 * bande;
             interne -= ray0 * (T4i - T4[i]) * bande;

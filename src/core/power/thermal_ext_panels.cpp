@@ -50,9 +50,11 @@ void thermal_ext_panels(Etat& etat) {
         double interne = 0;
         for (int i = 2; i < 8; ++i) {
             const int k = i - 2;
-            const double echange = (T[8] - T[i]) * cond[k] + ray[k] * (T4[8] - T4[i]);
-            d[i] = ((absorbe[i] - emis[i] * T4[i]) + echange) / cap[i];
-            interne -= echange;
+            // Face: balance + conduction + radiation, summed left to right;
+            // the internal node takes the exchange as one term.
+            const double conduction = (T[8] - T[i]) * cond[k], rayonnement = ray[k] * (T4[8] - T4[i]);
+            d[i] = (((absorbe[i] - emis[i] * T4[i]) + conduction) + rayonnement) / cap[i];
+            interne -= conduction + rayonnement;
         }
         d[8] = (aire * interne + chaleur) / cap[8];
 

@@ -53,9 +53,11 @@ void thermal_faces(Etat& etat) {
 
         double interne = 0;
         for (int i = 0; i < n; ++i) {
-            const double echange = (T[10] - T[i]) * cond[0] + ray[0] * (T4[10] - T4[i]);
-            d[i] = (absorbe[i] - emis[0] * T4[i] + echange) / cap0;
-            interne -= echange;
+            // Face: balance + conduction + radiation, summed left to right;
+            // the internal node takes the exchange as one term.
+            const double conduction = (T[10] - T[i]) * cond[0], rayonnement = ray[0] * (T4[10] - T4[i]);
+            d[i] = (absorbe[i] - emis[0] * T4[i] + conduction + rayonnement) / cap0;
+            interne -= conduction + rayonnement;
         }
         for (int j = 1; j <= 2; ++j) {
             const int i = 7 + j;

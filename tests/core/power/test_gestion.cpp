@@ -49,8 +49,10 @@ TEST(PowerManagement, CaseBChargesWithThePreviousCurrent) {
     p.bat_soc = 0.5;
     p.gen_power = 100;  // surplus 40 W: 4 W per accumulator
     power_management(e);
-    // soc' = 0.5 + 60 * 2 / (1.05 * 3600 * 10) with the old 2 A
-    EXPECT_NEAR(p.bat_soc, 0.5 + 120.0 / 37800.0, 1e-9);
+    // soc' = 0.5 + 60 * 2 / (1.05 * 3600 * 10) with the old 2 A, the product
+    // k * 3600 in double (rounding it to float moves soc by 6e-11).
+    const double k = 1.05f;
+    EXPECT_EQ(p.bat_soc, 0.5 + 60 * 2.0 / (k * 3600 * 10));
     EXPECT_EQ(p.t_charge, 60);
     EXPECT_EQ(p.t_discharge, 0);
     // The battery takes the surplus: 10 * i * v = 40 W, v on the charge curve.

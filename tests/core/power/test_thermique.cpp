@@ -2,6 +2,8 @@
 // cylinder's sub-steps, and the ageing of absorptivity.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "core/power/thermique.h"
 #include "outils_power.h"
 
@@ -42,6 +44,73 @@ TEST(Alpha, NewAtDateCellAndNinetyNinePercentAtT99) {
     EXPECT_NEAR(alpha(p, static_cast<float>(p.date_cell), 0.2f, 0.4f, 1000), 0.2, 1e-7);
     // t99 = 1200 h = 50 days later: alim (1 - 0.01) = 0.396
     EXPECT_NEAR(alpha(p, static_cast<float>(p.date_cell + 50), 0.2f, 0.4f, 1200), 0.396, 1e-7);
+}
+
+// The terms of a face are summed left to right, balance + conduction +
+// radiation, and the ageing exponent is (rate * days) * 24: other groupings
+// differ in the last bits. Each case below is chosen so that they do, and
+// unit heat capacities keep that difference visible after one pass.
+TEST(ThermalOrder, TermsSummedAsWritten) {
+    const double t4_300 = 8.1e9, t4_310 = 9235210000.0;  // 300^4, 310^4, exact
+    {
+        PowerRecord p;  // date_cell 17897, 10.25 days later
+        const float t = 17907.25f;
+        const double q = 1.0 - static_cast<double>(0.2f) / 0.5f;
+        const double taux = -std::log(q * 100) / 1000;
+        const double attendu = 0.5f * (1 - q * std::exp(taux * (t - 17897.0) * 24));
+        ASSERT_NE(attendu, 0.5f * (1 - q * std::exp(taux * ((t - 17897.0) * 24))));
+        EXPECT_EQ(alpha(p, t, 0.2f, 0.5f, 1000), attendu);
+    }
+    // Face at 300 K, internal node at 310 K, no flux: balance -eps sigma 300^4,
+    // conduction (310 - 300) * 3, radiation sigma * 0.005 * (310^4 - 300^4).
+    const double bilan = 0.0 - (0.75f * SIGMA) * t4_300;
+    const double conduction = 10.0 * 3;
+    const double rayonnement = (SIGMA * 0.005f) * (t4_310 - t4_300);
+    const double attendu = 300.0 + ((bilan + conduction) + rayonnement);  // -14.1306679721935
+    ASSERT_NE(attendu, 300.0 + (bilan + (conduction + rayonnement)));
+    {
+        Etat e = essai::etat_soleil_zenith(0.0);
+        e.session.pas_sim = 1;
+        PowerRecord& p = e.pwr;
+        p.ext_eps.fill(0.75f);
+        p.ext_cond.fill(3);
+        p.ext_rad.fill(0.005f);
+        p.ext_mass[2] = 1;
+        p.ext_cp[2] = 1;
+        p.node_t.fill(300.0);
+        p.node_t[8] = 310.0;
+        thermal_ext_panels(e);
+        EXPECT_EQ(p.node_t[2], attendu);
+    }
+    {
+        Etat e = deux_noeuds_faces(0);
+        e.pwr.flux_sun = 0;
+        e.pwr.fac_eps[0] = 0.75f;
+        e.pwr.fac_cond[0] = 3;
+        e.pwr.fac_rad[0] = 0.005f;
+        e.pwr.fac_mass[0] = 1;
+        e.pwr.fac_cp[0] = 1;
+        e.pwr.node_t.fill(300.0);
+        e.pwr.node_t[10] = 310.0;
+        thermal_faces(e);
+        EXPECT_EQ(e.pwr.node_t[0], attendu);
+    }
+    {
+        // Strip 0 at 300 K between two at 280 K, wall conduction alone:
+        // (2*300 - 280 - 280) * 0.5 / (0.5 * 10 deg) = 229.183 W/m², taken as
+        // (x * cond) / width.
+        Etat e = deux_noeuds_faces(2);
+        e.pwr.flux_sun = 0;
+        e.pwr.cyl_cond = 0.5f;
+        e.pwr.fac_mass[0] = 1;
+        e.pwr.fac_cp[0] = 1;
+        e.pwr.node_t[0] = 300.0;
+        const double bande = 0.5f * 0.17453292519943278;
+        const double att = 300.0 + (0.0 - (40.0 * 0.5f) / bande);  // 70.8168819476705
+        ASSERT_NE(att, 300.0 + (0.0 - 40.0 * (0.5f / bande)));
+        thermal_cylinder(e);
+        EXPECT_EQ(e.pwr.node_t[0], att);
+    }
 }
 
 TEST(ThermalFaces, OnePassMatchesHandEuler) {
