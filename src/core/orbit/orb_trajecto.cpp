@@ -4,7 +4,10 @@
 // an Earth of 6428 km with a point Sun.
 #include "core/orbit/orb_trajecto.h"
 
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 #include "core/etat.h"
 #include "core/orbit/math.h"
@@ -18,6 +21,8 @@ constexpr double MU_TERRE = 398601.3;     // km^3/s^2
 constexpr double SECONDES_JOUR = 86400.0;
 constexpr double RAYON_OMBRE = 6428.0;    // km, larger than the Earth on purpose
 constexpr int PASSES_MAX = 100000;        // safety cap of the Newton loop
+
+uint64_t bits(double x) { return std::bit_cast<uint64_t>(x); }
 
 // Kepler's equation by Newton from E = m, then position and velocity. Returns
 // false when the loop passed its cap (the vectors then come from the last pass).
@@ -38,25 +43,29 @@ bool cartesien(Etat& etat, double j, double a, double e, double i, double w, dou
     if (!converge) signale_faute(etat, CodeErreur::non_convergence, j, "équation de Kepler");
     m = E;
 
-    const double cw = std::cos(w), sw = std::sin(w), co = std::cos(om), so = std::sin(om);
-    const double ci = std::cos(i), si = std::sin(i);
-    const double Px = cw * co - so * sw * ci;
-    const double Py = cw * so + co * sw * ci;
-    const double Pz = si * sw;
-    const double Qx = -sw * co - so * cw * ci;
-    const double Qy = -sw * so + co * cw * ci;
-    const double Qz = cw * si;
-
-    const double s = std::sqrt(1.0 - e * e);
+    MemoireOrbite& mem = etat.orb.memoire;
+    const std::array<uint64_t, 5> cle{bits(a), bits(e), bits(i), bits(w), bits(om)};
+    if (!mem.plan_valide || mem.cle_plan != cle) {
+        const double cw = std::cos(w), sw = std::sin(w), co = std::cos(om), so = std::sin(om);
+        const double ci = std::cos(i), si = std::sin(i);
+        mem.P = Vec3{cw * co - so * sw * ci, cw * so + co * sw * ci, si * sw};
+        mem.Q = Vec3{-sw * co - so * cw * ci, -sw * so + co * cw * ci, cw * si};
+        mem.s = std::sqrt(1.0 - e * e);
+        // The rate is taken again from a alone, in this form.
+        mem.n_plan = std::sqrt(MU_TERRE / (a * a * a));
+        mem.cle_plan = cle;
+        mem.plan_valide = true;
+    }
+    const double Px = mem.P[0], Py = mem.P[1], Pz = mem.P[2];
+    const double Qx = mem.Q[0], Qy = mem.Q[1], Qz = mem.Q[2];
+    const double s = mem.s;
     const double cE = std::cos(E), sE = std::sin(E);
     Vec3& p = etat.orb.sat_pos;
     p[0] = a * ((cE - e) * Px + s * sE * Qx);
     p[1] = a * ((cE - e) * Py + s * sE * Qy);
     p[2] = a * ((cE - e) * Pz + s * sE * Qz);
 
-    // The rate is taken again from a alone, in this form.
-    const double n = std::sqrt(MU_TERRE / (a * a * a));
-    const double Ep = n / (1.0 - e * cE);
+    const double Ep = mem.n_plan / (1.0 - e * cE);
     Vec3& v = etat.orb.sat_vit;
     v[0] = a * Ep * (s * cE * Qx - sE * Px);
     v[1] = a * Ep * (s * cE * Qy - sE * Py);
@@ -85,18 +94,23 @@ void orb_kepler(Etat& etat, double j, double a, double e, double i, double w, do
     om *= DEG_RAD;
     m0 *= DEG_RAD;
 
-    // Epoch as a day count, by four-year blocks from 1900 (every fourth year
-    // a leap year, no century rule). Integer division and remainder truncate.
-    const int k = an - 1900;
-    const double q = (k / 4) * 4;
-    double t0;
-    if (k % 4 == 0)
-        t0 = q * 365.25 + d - 18263.0;
-    else
-        t0 = q * 365.25 + (k % 4) * 365 + 1.0 + d - 18263.0;
-
-    const double n = std::sqrt(MU_TERRE / a) / a;  // rad/s
-    double m = n * (j - t0) * SECONDES_JOUR + m0;
+    MemoireOrbite& mem = etat.orb.memoire;
+    const std::array<uint64_t, 3> cle{bits(a), bits(d), static_cast<uint64_t>(static_cast<int64_t>(an))};
+    if (!mem.kepler_valide || mem.cle_kepler != cle) {
+        // Epoch as a day count, by four-year blocks from 1900 (every fourth
+        // year a leap year, no century rule). Integer division and remainder
+        // truncate.
+        const int k = an - 1900;
+        const double q = (k / 4) * 4;
+        if (k % 4 == 0)
+            mem.t0 = q * 365.25 + d - 18263.0;
+        else
+            mem.t0 = q * 365.25 + (k % 4) * 365 + 1.0 + d - 18263.0;
+        mem.n = std::sqrt(MU_TERRE / a) / a;  // rad/s
+        mem.cle_kepler = cle;
+        mem.kepler_valide = true;
+    }
+    double m = mem.n * (j - mem.t0) * SECONDES_JOUR + m0;
     m = modulo(m, DEUX_PI);
     etat.orb.anomalie_moy = m;
     cartesien(etat, j, a, e, i, w, om, m);

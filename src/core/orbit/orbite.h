@@ -29,6 +29,24 @@ struct Orbite {
     }
 };
 
+// What the propagation derives from the elements alone, kept between calls so
+// that a run with fixed elements skips those sines, cosines and roots. Each
+// part is keyed by the exact bits of the values it comes from: a hit gives
+// the very numbers a fresh computation would.
+struct MemoireOrbite {
+    // Perifocal unit vectors, sqrt(1 - e^2) and the rate from a alone.
+    std::array<uint64_t, 5> cle_plan{};  // bits of a, e, i, w, om (km, -, rad)
+    bool plan_valide = false;
+    Vec3 P{}, Q{};
+    double s = 0.0;       // sqrt(1 - e^2)
+    double n_plan = 0.0;  // rad/s, sqrt(mu / (a^2 a))
+    // Mean motion and epoch date.
+    std::array<uint64_t, 3> cle_kepler{};  // bits of a, d, and the year
+    bool kepler_valide = false;
+    double n = 0.0;   // rad/s, sqrt(mu / a) / a
+    double t0 = 0.0;  // day count of the epoch
+};
+
 // Outputs, inertial frame of the mean equator and equinox of 1950.
 struct SortiesOrbite {
     Vec3 sat_pos{};          // km
@@ -41,6 +59,7 @@ struct SortiesOrbite {
     double sat_lon = 0;      // rad, (-pi, pi]
     double sat_lat = 0;      // rad, geodetic
     double sat_alt = 0;      // km above the ellipsoid
+    MemoireOrbite memoire;   // element-only values of the last calls
 };
 
 // Pointing of the satellite set on the orbit window's attitude page.

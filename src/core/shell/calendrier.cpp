@@ -46,8 +46,12 @@ void jour_vers_date(double j, Date& d) {
     } else {
         r = D - q * 365.25 - (k % 4) * 365 - 1.0;
     }
+    // The walk steps before it tests: before 1900 r can be exactly 0 on the
+    // first day of a block, and month 1 must still come out of it.
     int mois = 1;
-    while (!(r - table_mois(mois) <= 0 || mois == 13)) ++mois;
+    do {
+        ++mois;
+    } while (!(r - table_mois(mois) <= 0 || mois == 13));
     --mois;
     int jour = static_cast<int>(ent(r - table_mois(mois)));
     if (k % 4 == 0 && mois >= 3) {

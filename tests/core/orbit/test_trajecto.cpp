@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <functional>
 
 #include "core/etat.h"
 #include "core/orbit/orb_trajecto.h"
@@ -97,6 +98,8 @@ TEST(OrbPosition, CirculaireEquatorialeFinie) {
 }
 
 TEST(OrbPosition, MemeDateMemesBits) {
+    // Same date, same bits: after another date, after a change of the shown
+    // mean motion (the rate comes from orb_demi), in a copy of the state.
     Etat e;
     e.orbite.orb_inclinaison = 98.2;
     e.orbite.orb_excentricite = 0.01;
@@ -104,13 +107,30 @@ TEST(OrbPosition, MemeDateMemesBits) {
     e.orbite.orb_ascension = 120.0;
     orb_position(e, 18640.125);
     const SortiesOrbite premier = e.orb;
-    orb_position(e, 18641.5);  // another date in between
+    orb_position(e, 18641.5);
     orb_position(e, 18640.125);
     EXPECT_TRUE(memes_bits(premier, e.orb));
-    // the entered mean motion is shown only: the rate comes from orb_demi
     e.orbite.orb_moy_mvt = 3.0;
-    orb_position(e, 18640.125);
-    EXPECT_TRUE(memes_bits(premier, e.orb));
+    Etat copie = e;
+    orb_position(copie, 18640.125);
+    EXPECT_TRUE(memes_bits(premier, copie.orb));
+
+    // Each element changed in a state that has already run must give what a
+    // fresh state gives: nothing derived from the old elements may linger.
+    const std::function<void(Orbite&)> changes[] = {
+        [](Orbite& o) { o.orb_demi = 7400.0; },       [](Orbite& o) { o.orb_excentricite = 0.2; },
+        [](Orbite& o) { o.orb_inclinaison = 0.0; },   [](Orbite& o) { o.orb_argument = -70.0; },
+        [](Orbite& o) { o.orb_ascension = 0.0; },     [](Orbite& o) { o.orb_anomalie = 10.0; },
+        [](Orbite& o) { o.orb_an = 1999; },           [](Orbite& o) { o.orb_jour = 3.25; }};
+    for (std::size_t k = 0; k < std::size(changes); ++k) {
+        Etat neuf = e;
+        neuf.orb = SortiesOrbite{};
+        changes[k](e.orbite);
+        changes[k](neuf.orbite);
+        orb_position(e, 18640.125);
+        orb_position(neuf, 18640.125);
+        EXPECT_TRUE(memes_bits(neuf.orb, e.orb)) << "change " << k;
+    }
 }
 
 TEST(OrbPosition, ElliptiqueAuPerigeeEtALApogee) {

@@ -50,6 +50,18 @@ TEST(Calendrier, AllerRetourAutourDuBissextile) {
     }
 }
 
+TEST(Calendrier, AvantMilNeufCent) {
+    // j = -18628: D = -18628 + 18264 = -364, an = Int(-365 / 365.25) + 1900 =
+    // 1899, k = -1 (quotient 0, remainder -1): r = -364 + 365 - 1 = 0. The
+    // month walk leaves month 1, and the day is Int(0 - 0) = 0.
+    Date d;
+    jour_vers_date(-18628.0, d);
+    attend_date(d, 1899, 1, 0);
+    // a day later r = 1: 1 January 1899
+    jour_vers_date(-18627.0, d);
+    attend_date(d, 1899, 1, 1);
+}
+
 TEST(Calendrier, Siecle2100EstBissextile) {
     // No century rule: 29 February 2100 is one day before 1 March 2100.
     EXPECT_EQ(date_vers_jour(fait(2100, 3, 1)) - date_vers_jour(fait(2100, 2, 29)), 1.0);
