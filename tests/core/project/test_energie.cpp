@@ -139,17 +139,6 @@ TEST(FichierEnergie, FichierRetoucheALaMain) {
         EXPECT_EQ(e.pwr.pan_fixed, VRAI);
         EXPECT_EQ(e.session.pas_sim, 120);
     }
-    // Lines ending in LF alone and a quoted value read the same.
-    {
-        auto s = l;
-        s[9] = "\"2.5\"  Voc";
-        std::string t;
-        for (const auto& x : s) t += x + "\n";
-        Etat e;
-        ASSERT_FALSE(charge_texte(d, t, e));
-        EXPECT_EQ(e.pwr.cel_voc, 2.5f);
-        EXPECT_EQ(e.pwr.bat_c, 10.0f);
-    }
 }
 
 TEST(FichierEnergie, UneVirguleCoupeLaValeurEtDecaleLaSuite) {
