@@ -44,18 +44,13 @@ TEST(Matrices, ProduitDansLOrdreMemoire) {
     mat_produit(A, A, C);
     const std::array<double, 9> attendu{30, 36, 42, 66, 81, 96, 102, 126, 150};
     EXPECT_EQ(C.m, attendu);
+    // M v with the same A, v = (1, 0, -1): (1 - 7, 2 - 8, 3 - 9)
+    Vec3 r;
+    mat_vecteur(A, Vec3{1, 0, -1}, r);
+    attend_vec(r, -6, -6, -6, 0.0);
     mat_produit(A, A, A);  // result over an input
     EXPECT_EQ(A.m, attendu);
 
-    // M v with the same A = [[1,4,7],[2,5,8],[3,6,9]], v = (1, 0, -1): (-6, -6, -6)
-    Mat3 B;
-    for (int k = 0; k < 9; ++k) B.m[k] = k + 1;
-    Vec3 r;
-    mat_vecteur(B, Vec3{1, 0, -1}, r);
-    attend_vec(r, -6, -6, -6, 0.0);
-}
-
-TEST(Matrices, Vecteurs) {
     Vec3 c;
     vec_vectoriel(Vec3{1, 2, 3}, Vec3{4, 5, 6}, c);
     attend_vec(c, -3, 6, -3, 0.0);  // (2*6-3*5, 3*4-1*6, 1*5-2*4)
