@@ -1,5 +1,7 @@
 // Small file helpers shared by the project-file tests.
 #pragma once
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -8,11 +10,13 @@
 
 namespace kestrel::essai {
 
-// A fresh folder per test, removed at the end.
+// A fresh folder per test and per process (two builds may run the same
+// test at once), removed at the end.
 struct DossierTemporaire {
     std::filesystem::path chemin;
     explicit DossierTemporaire(const std::string& nom)
-        : chemin(std::filesystem::temp_directory_path() / ("kestrel_essai_" + nom)) {
+        : chemin(std::filesystem::temp_directory_path() /
+                 ("kestrel_essai_" + nom + "_" + std::to_string(::getpid()))) {
         std::filesystem::remove_all(chemin);
         std::filesystem::create_directories(chemin);
     }
