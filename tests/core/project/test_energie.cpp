@@ -68,7 +68,7 @@ TEST(FichierEnergie, AllerRetour) {
     b.pwr.de_pt[0][5] = 0.333333f;   // point 0, coefficient 5: line 232 + 20
     b.pwr.sun_power = 3.8123456e26;  // the picture keeps five significant digits
     b.session.j_debut = 19000.25;
-    b.session.j_fin = 19001.123456789;
+    b.session.j_fin = 19001.123456789;  // 15 characters: read whole, not cut at 14
     b.session.pas_sim = 45;
     ASSERT_FALSE(sauve_energie(b, d / "b.pwr"));
     const auto l = lignes(lit_octets(d / "b.pwr"));
