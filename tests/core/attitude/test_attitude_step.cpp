@@ -188,6 +188,18 @@ TEST(Reduction, MoinsPiRameneAPlusPiPourYi) {
     EXPECT_EQ(e.att.yi[0], PI);
 }
 
+TEST(Reduction, RechercheAuQuartDeTour) {
+    // free spin about x from yi = 0, one step of 1 s: yi(0) = wx dt. At
+    // 0.7 rad the nearest of the nine shifts to the previous 0 is 0.7 itself
+    // (0.7 - pi/2 is 0.87 away); at 1 rad it is 1 - pi/2 = -0.5707963
+    // (0.57 away): the angle snaps by a quarter turn
+    for (auto [wx, attendu] : {std::pair{0.7, 0.7}, std::pair{1.0, 1.0 - DEMI_PI}}) {
+        Etat e = corps_libre({wx, 0, 0});
+        avance(e, 1.0, 1);
+        EXPECT_NEAR(e.att.yi[0], attendu, 1e-12) << wx;
+    }
+}
+
 TEST(Reduction, UnTourParSigneEtModulo) {
     // sign kept, magnitude mod 2 pi (2 pi = 6.28318530717958)
     EXPECT_EQ(reduit_tour(-PI), -PI);
