@@ -449,19 +449,22 @@ void menu::titre_attitude(const QString& chemin) {
 }
 
 // Dialog of a project command: the kind's title and filter, dossier_depart,
-// and the current project's name proposed (empty for a new project).
-DemandeFichier menu::demande(const char* titre, const char* filtre, const std::string& actuel,
-                             const char* extension) const {
-    return {u(titre), filtre_qt(u(filtre)), dossier_depart(),
-            actuel.empty() ? QString() : nom_projet(QString::fromStdString(actuel)), u(extension)};
+// and the current project's name proposed (empty for a new project). Whatever
+// the answer, the working folder goes back to dossier_depart. Empty: cancelled.
+QString menu::choisit(bool ouverture, const char* titre, const char* filtre,
+                      const std::string& actuel, const char* extension) {
+    const DemandeFichier d{u(titre), filtre_qt(u(filtre)), dossier_depart(),
+                           actuel.empty() ? QString() : nom_projet(QString::fromStdString(actuel)),
+                           u(extension)};
+    const QString chemin = ouverture ? dialogues_.ouvrir(this, d) : dialogues_.enregistrer(this, d);
+    QDir::setCurrent(dossier_depart());
+    return chemin;
 }
 
 void menu::montre_erreur(const QString& texte) { dialogues_.message(this, texte, Icone::critique); }
 
 void menu::ouvre_energie() {
-    const DemandeFichier d = demande(titre_ouvrir_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
-    const QString chemin = dialogues_.ouvrir(this, d);
-    QDir::setCurrent(dossier_depart());
+    const QString chemin = choisit(true, titre_ouvrir_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
     if (chemin.isEmpty()) return;
     // A .pwr that cannot be read is the end of the program: its report, then
     // no question and no save of a half-known project.
@@ -494,9 +497,7 @@ bool menu::enregistre_energie() {
 }
 
 bool menu::enregistre_energie_sous() {
-    const DemandeFichier d = demande(titre_sauver_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
-    const QString chemin = dialogues_.enregistrer(this, d);
-    QDir::setCurrent(dossier_depart());
+    const QString chemin = choisit(false, titre_sauver_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
     if (chemin.isEmpty()) return false;
     const Erreur e = sauve_energie(etat_, chemin.toStdString());
     if (e) {
@@ -509,9 +510,7 @@ bool menu::enregistre_energie_sous() {
 }
 
 void menu::ouvre_attitude() {
-    const DemandeFichier d = demande(titre_ouvrir_att, filtre_att, etat_.session.chemin_attitude, "att");
-    const QString chemin = dialogues_.ouvrir(this, d);
-    QDir::setCurrent(dossier_depart());
+    const QString chemin = choisit(true, titre_ouvrir_att, filtre_att, etat_.session.chemin_attitude, "att");
     if (chemin.isEmpty()) return;
     const Erreur e = charge_attitude(etat_, chemin.toStdString());
     if (e) {
@@ -531,9 +530,7 @@ bool menu::enregistre_attitude() {
 }
 
 bool menu::enregistre_attitude_sous() {
-    const DemandeFichier d = demande(titre_sauver_att, filtre_att, etat_.session.chemin_attitude, "att");
-    const QString chemin = dialogues_.enregistrer(this, d);
-    QDir::setCurrent(dossier_depart());
+    const QString chemin = choisit(false, titre_sauver_att, filtre_att, etat_.session.chemin_attitude, "att");
     if (chemin.isEmpty()) return false;
     // A failed write here ends as a cancel does: no message, nothing changed.
     if (sauve_attitude(etat_, chemin.toStdString())) return false;

@@ -74,8 +74,8 @@ private:
     bool accepte_fin();
     // Folders, titles and the common end of a successful open or save.
     QString dossier_depart() const;
-    DemandeFichier demande(const char* titre, const char* filtre, const std::string& actuel,
-                           const char* extension) const;
+    QString choisit(bool ouverture, const char* titre, const char* filtre,
+                    const std::string& actuel, const char* extension);
     void titre_energie(const QString& chemin);
     void titre_attitude(const QString& chemin);
     void apres_ouverture(const QString& chemin, const QString& tag);

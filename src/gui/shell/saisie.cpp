@@ -46,25 +46,30 @@ ControleSaisie* surveille(QLineEdit* champ, Dialogues& dialogues, Verification v
     return new ControleSaisie(champ, dialogues, std::move(verif));
 }
 
-Verification reel_borne(double& cible, double min, double max, bool min_inclus, bool max_inclus) {
-    return [&cible, min, max, min_inclus, max_inclus](const QString& texte) {
-        double x = 0.0;
-        Verdict v = verif_double(texte.toStdString(), x);
+namespace {
+
+// The text read by its type's check, then held to [min, max], then stored.
+template <class T>
+Verification lue_et_bornee(Verdict (*lire)(const std::string&, T&), T& cible, T min, T max,
+                           bool min_inclus, bool max_inclus) {
+    return [lire, &cible, min, max, min_inclus, max_inclus](const QString& texte) {
+        T x{};
+        Verdict v = lire(texte.toStdString(), x);
         if (v.ok) v = verif_bornes(x, min, max, min_inclus, max_inclus);
         if (v.ok) cible = x;
         return v;
     };
 }
 
+}  // namespace
+
+Verification reel_borne(double& cible, double min, double max, bool min_inclus, bool max_inclus) {
+    return lue_et_bornee(&verif_double, cible, min, max, min_inclus, max_inclus);
+}
+
 Verification entier_borne(int32_t& cible, int32_t min, int32_t max, bool min_inclus,
                           bool max_inclus) {
-    return [&cible, min, max, min_inclus, max_inclus](const QString& texte) {
-        int32_t n = 0;
-        Verdict v = verif_entier(texte.toStdString(), n);
-        if (v.ok) v = verif_bornes(n, min, max, min_inclus, max_inclus);
-        if (v.ok) cible = n;
-        return v;
-    };
+    return lue_et_bornee(&verif_entier, cible, min, max, min_inclus, max_inclus);
 }
 
 }  // namespace kestrel::gui
