@@ -123,15 +123,6 @@ TEST(PowerStep, ADayInEachLayoutStaysFiniteWithEclipsesAtTheExpectedFraction) {
     }
 }
 
-TEST(PowerStep, NewProjectGivesNoGeneratorPower) {
-    // Ten accumulators (about 13 V) above one cell's Voc: every efficiency is 0.
-    Etat e;
-    const Bilan b = journee(e);
-    ASSERT_TRUE(b.fini);
-    EXPECT_EQ(b.pg_max, 0.0);
-    EXPECT_EQ(e.pwr.cell_eff[0], 0.0f);
-}
-
 TEST(PowerStep, NonFiniteValueIsNamed) {
     Etat e;
     EXPECT_TRUE(power_etat_fini(e, 18000.0));
