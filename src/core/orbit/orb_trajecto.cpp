@@ -24,6 +24,15 @@ constexpr int PASSES_MAX = 100000;        // safety cap of the Newton loop
 
 uint64_t bits(double x) { return std::bit_cast<uint64_t>(x); }
 
+// Element by element: the library's array comparison goes through memcmp,
+// which costs more than these few words.
+template <std::size_t N>
+bool memes_cles(const std::array<uint64_t, N>& a, const std::array<uint64_t, N>& b) {
+    bool egal = true;
+    for (std::size_t k = 0; k < N; ++k) egal &= a[k] == b[k];
+    return egal;
+}
+
 // Kepler's equation by Newton from E = m, then position and velocity. Returns
 // false when the loop passed its cap (the vectors then come from the last pass).
 bool cartesien(Etat& etat, double j, double a, double e, double i, double w, double om, double& m) {
@@ -45,7 +54,7 @@ bool cartesien(Etat& etat, double j, double a, double e, double i, double w, dou
 
     MemoireOrbite& mem = etat.orb.memoire;
     const std::array<uint64_t, 5> cle{bits(a), bits(e), bits(i), bits(w), bits(om)};
-    if (!mem.plan_valide || mem.cle_plan != cle) {
+    if (!mem.plan_valide || !memes_cles(mem.cle_plan, cle)) {
         const double cw = std::cos(w), sw = std::sin(w), co = std::cos(om), so = std::sin(om);
         const double ci = std::cos(i), si = std::sin(i);
         mem.P = Vec3{cw * co - so * sw * ci, cw * so + co * sw * ci, si * sw};
@@ -96,7 +105,7 @@ void orb_kepler(Etat& etat, double j, double a, double e, double i, double w, do
 
     MemoireOrbite& mem = etat.orb.memoire;
     const std::array<uint64_t, 3> cle{bits(a), bits(d), static_cast<uint64_t>(static_cast<int64_t>(an))};
-    if (!mem.kepler_valide || mem.cle_kepler != cle) {
+    if (!mem.kepler_valide || !memes_cles(mem.cle_kepler, cle)) {
         // Epoch as a day count, by four-year blocks from 1900 (every fourth
         // year a leap year, no century rule). Integer division and remainder
         // truncate.
