@@ -38,7 +38,13 @@ std::optional<double> lit_date(const std::string& texte) {
         d.heure = static_cast<int16_t>(h);
         d.minute = static_cast<int16_t>(mi);
         d.seconde = static_cast<int16_t>(s);
-        return date_vers_jour(d);
+        // A day the month does not have (30 February, 31 April) comes back as
+        // another date: refused. 29 February follows the program's calendar.
+        const double jour = date_vers_jour(d);
+        Date retour;
+        jour_vers_date(jour, retour);
+        if (retour.an != d.an || retour.mois != d.mois || retour.jour != d.jour) return std::nullopt;
+        return jour;
     }
     try {
         std::size_t n = 0;

@@ -67,10 +67,17 @@ TEST(CliOrbit, PeriodeEtPasDonnes) {
     ASSERT_EQ(r.code, 0) << r.erreurs;
     EXPECT_EQ(r.lignes.size(), 1u + 61u);
     EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 18707.0);
+
+    // every fourth year is a leap year here, 2100 too: 1 January 2100 is 150
+    // years of 365 days and 37 leap days (1952..2096) after 1950; then 31 + 28
+    r = lance_orbit("--start 2100-02-29T00:00:00 --end 2100-02-29T00:02:00");
+    ASSERT_EQ(r.code, 0) << r.erreurs;
+    EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 150.0 * 365 + 37 + 59);
 }
 
 TEST(CliOrbit, ArgumentsRefuses) {
     for (const char* a : {"--start 2001-13-01T00:00:00", "--start hier", "--end 2001-02-30T25:00:00",
+                          "--start 2001-02-29T00:00:00", "--start 2002-04-31T00:00:00",
                           "--step 0", "--step -60", "--start 20001 --end 20000", "--inconnu"}) {
         const Sortie r = lance_orbit(a);
         EXPECT_EQ(r.code, 2) << a;
