@@ -466,11 +466,12 @@ void menu::montre_erreur(const QString& texte) { dialogues_.message(this, texte,
 void menu::ouvre_energie() {
     const QString chemin = choisit(true, titre_ouvrir_pwr, filtre_pwr, etat_.session.chemin_energie, "pwr");
     if (chemin.isEmpty()) return;
-    // A .pwr that cannot be read is the end of the program: its report, then
-    // no question and no save of a half-known project.
+    // A .pwr that cannot be read: its report (line and text), and the session
+    // goes on as it was, so an unsaved attitude project is not lost. The load
+    // hands the records back only when the whole file was read.
     const Erreur e = charge_energie(etat_, chemin.toStdString());
     if (e) {
-        dialogues_.fin_fatale(this, QString::fromStdString(texte_erreur(e)));
+        montre_erreur(QString::fromStdString(texte_erreur(e)));
         return;
     }
     etat_.session.chemin_energie = chemin.toStdString();
