@@ -38,7 +38,44 @@ double flux_cellule(const PowerRecord& p, const Normale& n, F&& cosinus) {
     return soleil + albedo;
 }
 
+// Sun and albedo on the cells from the two incidences, the sun's cosine given.
+double flux_cellule_incidences(const PowerRecord& p, const LoiCellule& q, double th_s, double cos_s, double th_e) {
+    const double g = th_s <= q.d ? std::max(cos_s, 0.0) : cell_cosine(q, th_s);
+    const double soleil = (p.eclipse != VRAI && g > 0) ? p.flux_sun * g : 0.0;
+    const double h = cell_cosine(q, th_e);
+    const double albedo = h > 0 ? p.flux_alb * h : 0.0;
+    return soleil + albedo;
+}
+
 }  // namespace
+
+const PowerRecord::IncidencesBandes& incidences_bandes(PowerRecord& p) {
+    PowerRecord::IncidencesBandes& c = p.bandes;
+    const std::array<double, 6> cle = {p.sun_z, p.sun_sxy, p.sun_az, p.nad_z, p.nad_sxy, p.nad_az};
+    if (c.valide && c.cle == cle) return c;
+    c.cle = cle;
+    c.valide = true;
+    for (int i = 0; i < 36; ++i) {
+        // Normal in the xy plane: sin 0 and cos 0 are exactly 0 and 1.
+        const Normale n{0.0, 0.0, 1.0, (i * 10 + 5) * DEG_RAD};
+        c.soleil[i] = incidence(n, p.sun_z, p.sun_sxy, p.sun_az);
+        c.cos_soleil[i] = std::cos(c.soleil[i]);
+        c.terre[i] = incidence(n, p.nad_z, p.nad_sxy, p.nad_az);
+    }
+    return c;
+}
+
+double cell_flux_bande(const PowerRecord& p, const LoiCellule& q, int i) {
+    return flux_cellule_incidences(p, q, p.bandes.soleil[i], p.bandes.cos_soleil[i], p.bandes.terre[i]);
+}
+
+FluxSurface flux_surface_bande(const PowerRecord& p, const VueTerre& v, int i) {
+    const double deg = p.bandes.terre[i] * 180.0 / PI;
+    const double f = facteur_vue(v, deg);
+    const double c = p.bandes.cos_soleil[i];
+    const double direct = (p.eclipse != VRAI && c > 0) ? p.flux_sun * c : 0.0;
+    return {direct + f * p.flux_alb, f * p.flux_ir};
+}
 
 Normale normale(double a, double b) { return {a, std::sin(a), std::cos(a), b}; }
 

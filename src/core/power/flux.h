@@ -2,6 +2,7 @@
 // a elevation from the xy plane (pi/2 is +z), b azimuth, radians. They read
 // the direction and flux fields that environment_update left. W/m².
 #pragma once
+#include "core/power/power_record.h"
 
 namespace kestrel {
 
@@ -54,5 +55,11 @@ struct LoiCellule {
 LoiCellule loi_cellule(const PowerRecord& p);
 double cell_cosine(const LoiCellule& q, double theta);
 double cell_flux(const Etat& etat, const LoiCellule& q, const Normale& n);
+
+// The strips' incidences in p.bandes, computed again only when the
+// directions changed; then cell_flux and flux_surface of strip i from them.
+const PowerRecord::IncidencesBandes& incidences_bandes(PowerRecord& p);
+double cell_flux_bande(const PowerRecord& p, const LoiCellule& q, int i);
+FluxSurface flux_surface_bande(const PowerRecord& p, const VueTerre& v, int i);
 
 }  // namespace kestrel

@@ -25,10 +25,11 @@ void generator_cylinder(Etat& etat) {
     // The strip area comes from the width alone; cell counts and height do not enter.
     const double bande = p.body_width * 0.17453292519943278;
     const LoiCellule loi = loi_cellule(p);
+    incidences_bandes(p);
     p.gen_power = 0;
     for (int i = 0; i < 36; ++i) {
         p.cell_eff[i] = cell_efficiency(etat, p.node_t[i]);
-        p.pan_power[i] = cell_flux(etat, loi, normale(0, (i * 10 + 5) * DEG_RAD)) * p.cell_eff[i] * bande;
+        p.pan_power[i] = cell_flux_bande(p, loi, i) * p.cell_eff[i] * bande;
         p.gen_power += p.pan_power[i];
     }
 }

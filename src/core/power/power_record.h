@@ -167,6 +167,16 @@ struct PowerRecord {
         bool valide = false;
     };
     std::array<AlphaMemo, 8> alpha_memo{};
+
+    // Incidences (rad) of the cylinder's 36 strips for the directions in
+    // `cle` (sun_z, sun_sxy, sun_az, nad_z, nad_sxy, nad_az): the generator
+    // and the thermal model of one step read the same ones.
+    struct IncidencesBandes {
+        std::array<double, 6> cle{};
+        std::array<double, 36> soleil{}, cos_soleil{}, terre{};
+        bool valide = false;
+    };
+    IncidencesBandes bandes{};
 };
 
 }  // namespace kestrel

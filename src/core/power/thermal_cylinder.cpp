@@ -28,8 +28,9 @@ void thermal_cylinder(Etat& etat) {
     // temperatures: the same in every pass, so computed once.
     const VueTerre vue = vue_terre(etat);
     std::array<double, 38> absorbe{};
+    incidences_bandes(p);
     for (int i = 0; i < 36; ++i) {
-        const FluxSurface f = flux_surface(etat, vue, normale(0, (i * 10 + 5) * DEG_RAD));
+        const FluxSurface f = flux_surface_bande(p, vue, i);
         absorbe[i] = al[0] * f.sa + p.fac_eps[0] * f.ir;
     }
     const FluxSurface haut = flux_surface(etat, vue, normale(DEMI_PI, 0));
