@@ -24,7 +24,7 @@ std::string texte_erreur(const Erreur& e) {
         case CodeErreur::lecture_energie:
             // ligne 0: the file could not be opened; an empty text: the file ended early.
             if (e.ligne == 0)
-                return fmt::format("Erreur de lecture du fichier de configuration « {} » : "
+                return fmt::format("Erreur de lecture du fichier de configuration « {} » : "
                                    "fichier introuvable ou illisible",
                                    e.detail);
             if (e.detail.empty())
@@ -32,7 +32,7 @@ std::string texte_erreur(const Erreur& e) {
                                    "fin du fichier atteinte",
                                    e.ligne);
             return fmt::format("Erreur de lecture du fichier de configuration, ligne {} : "
-                               "valeur illisible « {} »",
+                               "valeur illisible « {} »",
                                e.ligne, e.detail);
         case CodeErreur::lecture_attitude:
             return msg::lecture_attitude;
