@@ -59,20 +59,31 @@ void thermal_cylinder(Etat& etat) {
     // Temperatures worked on a local copy, written back after the loop.
     std::array<double, 39> T = p.node_t;
     std::array<double, 39> T4{}, d{};
+    std::array<double, 36> conduction{}, rayonnement{};  // W/m², strip to internal node
     for (int pas = 0; pas < n; ++pas) {
         for (int i = 0; i < 39; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
         const double Ti_ = T[38], T4i = T4[38];
 
+        // Exchanges with the internal node first, then its serial sum in
+        // strip order, then the strips' own derivatives: these are
+        // independent of the sum, so the processor runs both at once.
+        for (int i = 0; i < 36; ++i) {
+            conduction[i] = (Ti_ - T[i]) * cond0;
+            rayonnement[i] = ray0 * (T4i - T4[i]);
+        }
         double interne = chaleur;
         for (int i = 0; i < 36; ++i) {
-            const int g = i == 0 ? 35 : i - 1;
-            const int dr = i == 35 ? 0 : i + 1;
-            double di = absorbe[i] - emis0 * T4[i] + (Ti_ - T[i]) * cond0 + ray0 * (T4i - T4[i]);
+            interne -= conduction[i] * bande;
+            interne -= rayonnement[i] * bande;
+        }
+        auto bande_i = [&](int i, int g, int dr) {
+            double di = absorbe[i] - emis0 * T4[i] + conduction[i] + rayonnement[i];
             di -= (2 * T[i] - T[g] - T[dr]) * cyl_cond / bande;
             d[i] = di / cap0 * k;
-            interne -= (Ti_ - T[i]) * cond0 * bande;
-            interne -= ray0 * (T4i - T4[i]) * bande;
-        }
+        };
+        bande_i(0, 35, 1);
+        for (int i = 1; i < 35; ++i) bande_i(i, i - 1, i + 1);
+        bande_i(35, 34, 0);
         for (int j = 1; j <= 2; ++j) {
             const int i = 35 + j;
             const double dj = absorbe[i] - emis[j] * T4[i] + (Ti_ - T[i]) * cond[j] + ray[j] * (T4i - T4[i]);
