@@ -58,8 +58,18 @@ frmFirst::frmFirst(Etat& etat, Dialogues& dialogues, QWidget* parent)
     cmdOK->setDefault(true);
     cmdOK->setMinimumWidth(100);
 
+    // The Earth image's source asks to be credited.
+    auto* lbl_credit = new QLabel(
+        QString::fromUtf8("Image de la Terre : NASA Visible Earth / NASA Goddard Space Flight Center"), this);
+    lbl_credit->setObjectName(QStringLiteral("lbl_credit"));
+    QFont f = lbl_credit->font();
+    f.setPointSizeF(f.pointSizeF() * 0.8);
+    lbl_credit->setFont(f);
+    lbl_credit->setAlignment(Qt::AlignCenter);
+
     auto* l = new QVBoxLayout(this);
     l->addWidget(pict_titre);
+    l->addWidget(lbl_credit);
     l->addWidget(cmdOK, 0, Qt::AlignHCenter);
     setFixedSize(sizeHint());
 
