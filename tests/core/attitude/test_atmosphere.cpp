@@ -17,15 +17,9 @@ const TablesAtmosphere& tables_livrees() {
     return *t;
 }
 
-double jour(int an, int mois, int j) {
-    Date d;
-    d.an = static_cast<int16_t>(an);
-    d.mois = static_cast<int16_t>(mois);
-    d.jour = static_cast<int16_t>(j);
-    return date_vers_jour(d);
-}
+double jour(int an, int mois, int j) { return date_vers_jour(Date{int16_t(an), int16_t(mois), 0, int16_t(j)}); }
 
-TEST(Atmosphere, TablesLivreesLuesCommeLesFichiers) {
+TEST(Atmosphere, TablesLivreesEtFichierAbsent) {
     const auto& t = tables_livrees();
     // first bytes "1991-01   229.41991-02   243.0", last record 78.5
     EXPECT_DOUBLE_EQ(t.flux[0], 229.4);
@@ -36,9 +30,7 @@ TEST(Atmosphere, TablesLivreesLuesCommeLesFichiers) {
     EXPECT_DOUBLE_EQ(t.lignes.front().alt, 100);
     EXPECT_DOUBLE_EQ(t.lignes.front().d1000, 5.51e-07);
     EXPECT_DOUBLE_EQ(t.lignes.back().alt, 2500);
-}
-
-TEST(Atmosphere, FichierAbsentNommeDansLErreur) {
+    // a missing file is named in the error
     Erreur e;
     EXPECT_EQ(tables_atmosphere("/nonexistent-kestrel-folder", e), nullptr);
     EXPECT_EQ(e.code, CodeErreur::fichier_donnees);
@@ -54,15 +46,10 @@ TEST(Atmosphere, FluxDuFichierJusqua2007PuisSinus) {
     EXPECT_DOUBLE_EQ(jour(2008, 1, 1), 21184.0);
     EXPECT_NEAR(flux_solaire(t, 21184.0), 171.555, 1e-3);
     // the sine's own origin and quarter periods (dates outside 1991-2007)
-    EXPECT_NEAR(flux_solaire(t, 17712.0 + 36525.0), 135.0, 1e-9);
-    EXPECT_NEAR(flux_solaire(t, 17712.0 + 36525.0 / 4), 200.0, 1e-9);
-    EXPECT_NEAR(flux_solaire(t, 17712.0 + 3 * 36525.0 / 4), 70.0, 1e-9);
-}
-
-TEST(Atmosphere, SinusDonne135AuJour17712) {
+    for (auto [dj, f] : {std::pair{36525.0, 135.0}, {36525.0 / 4, 200.0}, {3 * 36525.0 / 4, 70.0}})
+        EXPECT_NEAR(flux_solaire(t, 17712.0 + dj), f, 1e-9) << dj;
     // 17712 falls in 1998, where the table rules; a table-free copy shows the
     // sine branch itself: sin(0) = 0 -> F = 135
-    TablesAtmosphere t = tables_livrees();
     EXPECT_DOUBLE_EQ(flux_solaire_sinus(17712.0), 135.0);
     // 17712 = 1998-01-01 (17532) + 180 days: June 1998, record (1998 - 1991) 12 + 6 = 90
     EXPECT_DOUBLE_EQ(flux_solaire(t, 17712.0), t.flux[89]);
@@ -73,9 +60,8 @@ TEST(Atmosphere, TemperatureProportionnelleA379Plus324F) {
     TablesAtmosphere t1 = tables_livrees(), t2 = tables_livrees();
     t1.flux.fill(100.0);
     t2.flux.fill(200.0);
-    double j = jour(2001, 3, 21) + 0.3;
-    double a = temperature_exo(t1, j, 0.4, 0.2, 500) - 0.03;
-    double b = temperature_exo(t2, j, 0.4, 0.2, 500) - 0.03;
+    const double j = jour(2001, 3, 21) + 0.3;
+    const double a = temperature_exo(t1, j, 0.4, 0.2, 500) - 0.03, b = temperature_exo(t2, j, 0.4, 0.2, 500) - 0.03;
     EXPECT_NEAR(a / b, 703.0 / 1027.0, 1e-12);
     // day-night factor stays within (1 +- 0.3) x (1 + 0.3) of A
     EXPECT_GT(a, 0.7 * 703.0);
@@ -85,12 +71,13 @@ TEST(Atmosphere, TemperatureProportionnelleA379Plus324F) {
 TEST(Atmosphere, DecalageGeomagnetiqueKpNul) {
     // Kp = 0: +0.02 K below 200 km, +0.03 K from 200 km
     const auto& t = tables_livrees();
-    double j = jour(2001, 6, 1);
+    const double j = jour(2001, 6, 1);
     EXPECT_NEAR(temperature_exo(t, j, 1.0, -0.3, 200) - temperature_exo(t, j, 1.0, -0.3, 199.9), 0.01, 1e-9);
 }
 
 TEST(Atmosphere, DensiteAuxBornesDeLaTable) {
     const auto& t = tables_livrees();
+    // below the table a fixed density, from its top none
     EXPECT_EQ(densite(t, 1000, 99.9), 3.43e-06);
     EXPECT_EQ(densite(t, 1000, 2500), 0.0);
     EXPECT_EQ(densite(t, 1000, 30000), 0.0);
@@ -106,12 +93,10 @@ TEST(Atmosphere, DensiteAuxBornesDeLaTable) {
 TEST(Atmosphere, DeuxBranchesDeTemperature) {
     TablesAtmosphere t;
     t.lignes = {{100, 1, 2, 4}, {200, 3, 6, 12}};
-    // 150 km: 500 K -> 2, 1000 K -> 4, 2000 K -> 8
-    EXPECT_DOUBLE_EQ(densite(t, 500, 150), 2.0);
-    EXPECT_DOUBLE_EQ(densite(t, 750, 150), 3.0);
-    EXPECT_DOUBLE_EQ(densite(t, 1000, 150), 4.0);  // 500/1000 K branch, gives the 1000 K column
-    EXPECT_DOUBLE_EQ(densite(t, 1500, 150), 6.0);
-    EXPECT_DOUBLE_EQ(densite(t, 2000, 150), 8.0);
+    // 150 km: 500 K -> 2, 1000 K -> 4, 2000 K -> 8; 1000 K is in the
+    // 500/1000 K branch, which gives the 1000 K column
+    for (auto [T, d] : {std::pair{500.0, 2.0}, {750.0, 3.0}, {1000.0, 4.0}, {1500.0, 6.0}, {2000.0, 8.0}})
+        EXPECT_DOUBLE_EQ(densite(t, T, 150), d) << T;
     // past the last line the last bracket extrapolates: f = 2, 2 + 2 (6 - 2) = 10
     EXPECT_DOUBLE_EQ(densite(t, 1000, 300), 10.0);
 }

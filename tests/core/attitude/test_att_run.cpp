@@ -1,6 +1,7 @@
 // The attitude run and its results file: head, record count, wheel columns,
 // failures.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -16,23 +17,25 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// A scratch name of this process's own: ctest runs the cases in parallel.
+const std::string FICHIER = (fs::temp_directory_path() / ("kestrel_att_" + std::to_string(getpid()) + ".tmp")).string();
+
+// The file's lines without their CRLF; crlf is false if any line ends otherwise.
+// The file is removed once read.
 struct Fichier {
     std::vector<std::string> lignes;
     bool crlf = true;
 };
-
-Fichier lit(const std::string& chemin) {
-    std::ifstream f(chemin, std::ios::binary);
-    std::stringstream ss;
-    ss << f.rdbuf();
-    std::string tout = ss.str();
+Fichier lit() {
     Fichier r;
-    std::size_t debut = 0;
-    for (std::size_t p; (p = tout.find('\n', debut)) != std::string::npos; debut = p + 1) {
-        if (p == 0 || tout[p - 1] != '\r') r.crlf = false;
-        r.lignes.push_back(tout.substr(debut, p - debut - (p > debut && tout[p - 1] == '\r')));
+    {
+        std::ifstream f(FICHIER, std::ios::binary);
+        for (std::string l; std::getline(f, l); r.lignes.push_back(l)) {
+            if (f.eof() || l.empty() || l.back() != '\r') r.crlf = false;
+            else l.pop_back();
+        }
     }
-    if (debut != tout.size()) r.crlf = false;
+    fs::remove(FICHIER);
     return r;
 }
 
@@ -53,20 +56,20 @@ Etat etat_run() {
     return e;
 }
 
-std::string chemin_test(const char* nom) { return (fs::temp_directory_path() / nom).string(); }
+BilanRun lance(Etat e, ParametresRun p = {}) {
+    p.fichier = FICHIER;
+    return att_run(e, p);
+}
 
 TEST(AttRun, TeteEtNombreDEnregistrements) {
-    Etat e = etat_run();
     ParametresRun p;
-    p.fichier = chemin_test("kestrel_att_tete.tmp");
     std::vector<double> progres;
     p.progression = [&](double pc) { progres.push_back(pc); };
-    BilanRun b = att_run(e, p);
+    BilanRun b = lance(etat_run(), p);
     ASSERT_FALSE(b.erreur) << texte_erreur(b.erreur);
     EXPECT_EQ(b.pas, 10);
     EXPECT_EQ(b.enregistrements, 11);  // initial state + one a step
-
-    Fichier f = lit(p.fichier);
+    Fichier f = lit();
     EXPECT_TRUE(f.crlf);
     ASSERT_EQ(f.lignes.size(), 5u + 11u);
     EXPECT_EQ(f.lignes[0], "\"#BeginTime(JulianDays)\",18000");
@@ -93,27 +96,20 @@ TEST(AttRun, TeteEtNombreDEnregistrements) {
 }
 
 TEST(AttRun, UnEnregistrementTousLesNPas) {
-    // every 3 steps: 3 of 10; every 2.5 rounds to 2 (ties to even): 5 of 10
+    // every 3 steps: 3 of 10; every 2.5 rounds to 2 (ties to even): 5 of 10;
+    // start equal to end: a single step, two records
     for (auto [n, attendu] : {std::pair{3.0, 1 + 3}, std::pair{2.5, 1 + 5}}) {
-        Etat e = etat_run();
         ParametresRun p;
         p.pas_ecriture = n;
-        p.fichier = chemin_test("kestrel_att_tous.tmp");
-        BilanRun b = att_run(e, p);
-        EXPECT_EQ(b.enregistrements, attendu) << n;
-        EXPECT_EQ(lit(p.fichier).lignes.size(), static_cast<std::size_t>(5 + attendu)) << n;
+        EXPECT_EQ(lance(etat_run(), p).enregistrements, attendu) << n;
+        EXPECT_EQ(lit().lignes.size(), static_cast<std::size_t>(5 + attendu)) << n;
     }
-}
-
-TEST(AttRun, DebutEgalFinUnSeulPas) {
     Etat e = etat_run();
     e.session.j_fin = e.session.j_debut;
-    ParametresRun p;
-    p.fichier = chemin_test("kestrel_att_un.tmp");
-    BilanRun b = att_run(e, p);
+    BilanRun b = lance(e);
     EXPECT_FALSE(b.erreur);
     EXPECT_EQ(b.pas, 1);
-    EXPECT_EQ(lit(p.fichier).lignes.size(), 5u + 2u);
+    EXPECT_EQ(lit().lignes.size(), 5u + 2u);
 }
 
 TEST(AttRun, ColonnesDesRoues) {
@@ -121,53 +117,43 @@ TEST(AttRun, ColonnesDesRoues) {
     // 1 rad/s on x writes om(0) = (1 - wx) 180 / pi
     Etat e = etat_run();
     e.att.OM_init = {0.5e-4, 0, 0};
-    ParametresRun p;
-    p.fichier = chemin_test("kestrel_att_roues.tmp");
-    att_run(e, p);
-    auto r = champs(lit(p.fichier).lignes[5]);
-    EXPECT_EQ(r[19], "0");
-    EXPECT_EQ(r[20], "0");
-    EXPECT_EQ(r[21], "0");
-
-    Etat f = etat_run();
-    f.att.OM_init = {1.0, 0, 0};
-    f.att.omega_init = {0.01, 0, 0, 0, 0, 0};
-    att_run(f, p);
-    r = champs(lit(p.fichier).lignes[5]);
+    lance(e);
+    auto r = champs(lit().lignes[5]);
+    EXPECT_EQ(std::vector(r.begin() + 19, r.begin() + 22), std::vector<std::string>(3, "0"));
+    e.att.OM_init = {1.0, 0, 0};
+    e.att.omega_init = {0.01, 0, 0, 0, 0, 0};
+    lance(e);
+    r = champs(lit().lignes[5]);
     EXPECT_NEAR(std::stod(r[19]), 0.99 * 180 / 3.14159265358979, 1e-9);
     EXPECT_NEAR(std::stod(r[1]), 0.01 * 180 / 3.14159265358979, 1e-12);
 }
 
-TEST(AttRun, TablesAbsentesNommees) {
+TEST(AttRun, EchecsNommes) {
+    // missing tables are named
     Etat e = etat_run();
     e.session.dossier_depart = "/nonexistent-kestrel-folder";
-    ParametresRun p;
-    p.fichier = chemin_test("kestrel_att_absent.tmp");
-    BilanRun b = att_run(e, p);
+    BilanRun b = lance(e);
     EXPECT_EQ(b.erreur.code, CodeErreur::fichier_donnees);
     EXPECT_NE(texte_erreur(b.erreur).find("flux_solaire.txt"), std::string::npos);
-}
-
-TEST(AttRun, EtatNonFiniArreteLeRunEtGardeLeFichier) {
-    // a damper with a zero total mass divides by zero at the first step
-    Etat e = etat_run();
+    fs::remove(FICHIER);
+    // a damper with a zero total mass divides by zero at the first step: the
+    // run stops and keeps the file with its head and the initial record
+    e = etat_run();
     e.att.md = {0.1, 0, 0};
     e.att.Mt = 0;
     e.att.omega_init = {0.1, 0.1, 0.1, 0, 0, 0};
-    ParametresRun p;
-    p.fichier = chemin_test("kestrel_att_nan.tmp");
-    BilanRun b = att_run(e, p);
+    b = lance(e);
     EXPECT_EQ(b.erreur.code, CodeErreur::valeur_non_finie);
     EXPECT_EQ(b.erreur.date, 18000.0);
-    EXPECT_EQ(lit(p.fichier).lignes.size(), 6u);  // head and the initial record
+    EXPECT_EQ(lit().lignes.size(), 6u);
 }
 
 TEST(AttRun, CheminParDefautDansTemp) {
-    const fs::path d = fs::temp_directory_path() / "kestrel_att_depart";
-    fs::remove_all(d);
+    const fs::path d = fs::temp_directory_path() / ("kestrel_att_depart_" + std::to_string(getpid()));
     fs::create_directories(d);
     EXPECT_EQ(chemin_resultats(d.string()), (d / "temp" / "temp.tmp").string());
     EXPECT_TRUE(fs::is_directory(d / "temp"));
+    fs::remove_all(d);
 }
 
 }  // namespace

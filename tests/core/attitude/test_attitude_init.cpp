@@ -1,4 +1,5 @@
 // Start of a run, the face list and the Sun pointing button.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,6 +11,10 @@
 namespace kestrel {
 namespace {
 
+using testing::DoubleEq;
+using testing::DoubleNear;
+using testing::Pointwise;
+
 TEST(AttitudeInit, ZerosPartout) {
     Etat e;
     e.att.omd[2] = 5.0;  // never written by the initialisation
@@ -17,15 +22,8 @@ TEST(AttitudeInit, ZerosPartout) {
     e.att.dip_tot = {};
     e.att.dip_cmd = {1, 1, 1};
     attitude_init(e);
-    const Vec6 zero6{};
-    const Vec3 zero3{};
-    EXPECT_EQ(e.att.omega, zero6);
-    EXPECT_EQ(e.att.yi, zero6);
-    EXPECT_EQ(e.att.yd, zero6);
-    EXPECT_EQ(e.att.om, zero3);
-    EXPECT_EQ(e.att.z, zero3);
-    EXPECT_EQ(e.att.zd, zero3);
-    EXPECT_EQ(e.att.zdd, zero3);
+    for (const Vec6* v : {&e.att.omega, &e.att.yi, &e.att.yd}) EXPECT_EQ(*v, Vec6{});
+    for (const Vec3* v : {&e.att.om, &e.att.z, &e.att.zd, &e.att.zdd}) EXPECT_EQ(*v, Vec3{});
     EXPECT_EQ(e.att.dip_cmd, (std::array<int16_t, 3>{}));
     EXPECT_EQ(e.att.dip_tot, e.att.dip_res);
     EXPECT_EQ(e.att.omd[2], 5.0);
@@ -40,13 +38,11 @@ TEST(AttitudeInit, TauxDeYdDansLOrdreRoulisTangageLacet) {
     e.att.yd_init = {0, 0, 0.5, 0, 0, 0};
     e.att.yi_init = {0, 0.5, 0, 0, 0, 0};
     attitude_init(e);
-    EXPECT_NEAR(e.att.yd[3], 0.1 + 0.3 * 0.5463024898437905, 1e-15);
-    EXPECT_NEAR(e.att.yd[4], 0.2, 1e-15);
-    EXPECT_NEAR(e.att.yd[5], 0.3 / 0.8775825618903728, 1e-15);
-    EXPECT_DOUBLE_EQ(e.att.yd[2], 0.5);  // angles stay where they were
     // yi has no reordering: the same figures
-    EXPECT_NEAR(e.att.yi[3], 0.1 + 0.3 * 0.5463024898437905, 1e-15);
-    EXPECT_NEAR(e.att.yi[5], 0.3 / 0.8775825618903728, 1e-15);
+    const Vec3 taux{0.1 + 0.3 * 0.5463024898437905, 0.2, 0.3 / 0.8775825618903728};
+    for (const Vec6* y : {&e.att.yd, &e.att.yi})
+        EXPECT_THAT((Vec3{(*y)[3], (*y)[4], (*y)[5]}), Pointwise(DoubleNear(1e-15), taux));
+    EXPECT_DOUBLE_EQ(e.att.yd[2], 0.5);  // angles stay where they were
 }
 
 TEST(AttitudeInit, RouesEtDoubleEcritureDeOmd) {
@@ -55,26 +51,17 @@ TEST(AttitudeInit, RouesEtDoubleEcritureDeOmd) {
     e.att.OM_init = {10, 20, 30};
     attitude_init(e);
     EXPECT_EQ(e.att.OM, e.att.OM_init);
-    EXPECT_DOUBLE_EQ(e.att.om[0], 9.9);
-    EXPECT_DOUBLE_EQ(e.att.om[1], 19.8);
-    EXPECT_DOUBLE_EQ(e.att.om[2], 29.7);
-    EXPECT_EQ(e.att.omd[0], -4.0);
-    EXPECT_EQ(e.att.omd[1], -6.0);  // -omega(5) over -omega(4)
-    EXPECT_EQ(e.att.omd[2], 0.0);
+    EXPECT_THAT(e.att.om, Pointwise(DoubleEq(), Vec3{9.9, 19.8, 29.7}));
+    EXPECT_EQ(e.att.omd, (Vec3{-4.0, -6.0, 0.0}));  // omd(1): -omega(5) over -omega(4)
 }
 
 TEST(DecodePointage, TextesDeLaListe) {
     int16_t m = 0;
-    decode_pointage("+X", m);
-    EXPECT_EQ(m, 1);
-    decode_pointage("+Y", m);
-    EXPECT_EQ(m, 2);
-    decode_pointage("+Z", m);
-    EXPECT_EQ(m, 3);
-    decode_pointage("-X", m);
-    EXPECT_EQ(m, 4);
-    decode_pointage("-Z", m);
-    EXPECT_EQ(m, 5);  // never 6
+    // -Z is 5, never 6
+    for (auto [t, n] : {std::pair{"+X", 1}, {"+Y", 2}, {"+Z", 3}, {"-X", 4}, {"-Z", 5}}) {
+        decode_pointage(t, m);
+        EXPECT_EQ(m, n) << t;
+    }
     m = 3;
     decode_pointage("-Y", m);  // matches nothing: the last value stays
     EXPECT_EQ(m, 3);

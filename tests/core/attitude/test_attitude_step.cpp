@@ -1,9 +1,11 @@
 // The integrator step on bodies whose behaviour is known without it: a free
 // rigid body, a body with one nutation damper, dampers left out of the system,
 // a singular system, and the fold of -pi.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
@@ -13,6 +15,9 @@
 
 namespace kestrel {
 namespace {
+
+using testing::DoubleNear;
+using testing::Pointwise;
 
 // No external torque: orbit 1e6 km away (gravity gradient ~1e-12 of the
 // inertia, no air above 2500 km), no dipole, every face a perfect mirror
@@ -42,16 +47,15 @@ void avance(Etat& e, double dt, int n) {
     }
 }
 
+// |H| and the kinetic energy of the diagonal body
 double moment(const Etat& e) {
-    double h0 = e.att.I(0, 0) * e.att.omega[0], h1 = e.att.I(1, 1) * e.att.omega[1],
-           h2 = e.att.I(2, 2) * e.att.omega[2];
-    return std::sqrt(h0 * h0 + h1 * h1 + h2 * h2);
+    const auto& a = e.att;
+    return std::hypot(a.I(0, 0) * a.omega[0], a.I(1, 1) * a.omega[1], a.I(2, 2) * a.omega[2]);
 }
-
 double energie(const Etat& e) {
-    double t = 0;
-    for (int i = 0; i < 3; ++i) t += 0.5 * e.att.I(i, i) * e.att.omega[i] * e.att.omega[i];
-    return t;
+    const auto& a = e.att;
+    return 0.5 * (a.I(0, 0) * a.omega[0] * a.omega[0] + a.I(1, 1) * a.omega[1] * a.omega[1] +
+                  a.I(2, 2) * a.omega[2] * a.omega[2]);
 }
 
 TEST(CorpsLibre, MomentCinetiqueGardeAuPremierOrdre) {
@@ -81,11 +85,7 @@ TEST(CorpsLibre, EquationsDEulerSurUnPas) {
     // wz' = (2 - 3) 0.1 0.2 / 4 = -0.005
     Etat e = corps_libre({0.1, 0.2, 0.3});
     avance(e, 1.0, 1);
-    EXPECT_NEAR(e.att.omega[3], -0.03, 1e-12);
-    EXPECT_NEAR(e.att.omega[4], 0.02, 1e-12);
-    EXPECT_NEAR(e.att.omega[5], -0.005, 1e-12);
-    EXPECT_NEAR(e.att.omega[0], 0.1 - 0.03, 1e-12);
-    EXPECT_NEAR(e.att.omega[2], 0.3 - 0.005, 1e-12);
+    EXPECT_THAT(e.att.omega, Pointwise(DoubleNear(1e-12), Vec6{0.1 - 0.03, 0.2 + 0.02, 0.3 - 0.005, -0.03, 0.02, -0.005}));
     // wheels at rest follow the body: om = -omega, omd(1) = -omega(5)
     EXPECT_NEAR(e.att.om[1], -(0.2 + 0.02), 1e-12);
     EXPECT_NEAR(e.att.omd[1], 0.005, 1e-12);
@@ -115,8 +115,7 @@ TEST(Amortisseurs, UnAmortisseurActifDissipeLEnergie) {
     EXPECT_LT(energie(amorti), t0 - 0.003);
     EXPECT_GT(energie(amorti), 0.5055 - 1e-3);
     EXPECT_LT(std::fabs(amorti.att.omega[0]), 0.01);  // the wobble is gone
-    EXPECT_EQ(amorti.att.z[1], 0.0);  // inactive dampers are left out
-    EXPECT_EQ(amorti.att.z[2], 0.0);
+    EXPECT_EQ(std::pair(amorti.att.z[1], amorti.att.z[2]), std::pair(0.0, 0.0));  // inactive dampers are left out
 }
 
 TEST(Amortisseurs, ChaqueAmortisseurSeulSurSesLigneEtColonne) {
@@ -157,10 +156,7 @@ TEST(Amortisseurs, SansMasseLeSystemeReste3x3) {
     e.att.c = {2, 2, 2};
     e.att.k = {5, 5, 5};
     avance(e, 0.1, 200);
-    const Vec3 zero{};
-    EXPECT_EQ(e.att.z, zero);
-    EXPECT_EQ(e.att.zd, zero);
-    EXPECT_EQ(e.att.zdd, zero);
+    for (const Vec3* v : {&e.att.z, &e.att.zd, &e.att.zdd}) EXPECT_EQ(*v, Vec3{});
 }
 
 TEST(Singulier, PasSansEffet) {
@@ -202,19 +198,17 @@ TEST(Reduction, RechercheAuQuartDeTour) {
 
 TEST(Reduction, UnTourParSigneEtModulo) {
     // sign kept, magnitude mod 2 pi (2 pi = 6.28318530717958)
-    EXPECT_EQ(reduit_tour(-PI), -PI);
-    EXPECT_EQ(reduit_tour(DEUX_PI + 1.0), 1.0);
-    EXPECT_EQ(reduit_tour(-(DEUX_PI + 1.0)), -1.0);
-    // -pi: inertial angles fold it to +pi, local-orbital ones keep it
-    EXPECT_EQ(reduit_inertiel(-PI), PI);
-    EXPECT_EQ(reduit_orbital(-PI), -PI);
-    EXPECT_EQ(reduit_orbital(PI), PI);
-    // 4 > pi: 4 - 6.28318530717958 = -2.28318530717958
-    EXPECT_NEAR(reduit_inertiel(4.0), -2.28318530717958, 1e-14);
-    EXPECT_NEAR(reduit_orbital(4.0), -2.28318530717958, 1e-14);
+    // -pi: inertial angles fold it to +pi, local-orbital ones keep it;
+    // 4 > pi: 4 - 6.28318530717958 = -2.28318530717958;
     // -(pi + 0.5) < -pi: + 2 pi gives 2.64159265358979
-    EXPECT_NEAR(reduit_orbital(-(PI + 0.5)), 2.64159265358979, 1e-14);
-    EXPECT_NEAR(reduit_inertiel(-(PI + 0.5)), 2.64159265358979, 1e-14);
+    struct Cas { double (*f)(double); double x, attendu, tol; };
+    const Cas cas[] = {{reduit_tour, -PI, -PI, 0}, {reduit_tour, DEUX_PI + 1.0, 1.0, 0},
+                       {reduit_tour, -(DEUX_PI + 1.0), -1.0, 0}, {reduit_inertiel, -PI, PI, 0},
+                       {reduit_orbital, -PI, -PI, 0}, {reduit_orbital, PI, PI, 0},
+                       {reduit_inertiel, 4.0, -2.28318530717958, 1e-14}, {reduit_orbital, 4.0, -2.28318530717958, 1e-14},
+                       {reduit_orbital, -(PI + 0.5), 2.64159265358979, 1e-14},
+                       {reduit_inertiel, -(PI + 0.5), 2.64159265358979, 1e-14}};
+    for (const Cas& c : cas) EXPECT_NEAR(c.f(c.x), c.attendu, c.tol) << &c - cas;
 }
 
 TEST(ChoixTangage, TroisTestsEnChaine) {
@@ -225,10 +219,7 @@ TEST(ChoixTangage, TroisTestsEnChaine) {
     Vec6 yd{9, 9, -1, 0, 0.5, 0};
     const Vec3 s1{0.1, 0.0, 0.3}, s2{0.4, 0.9, 0.6};
     choix_tangage(yd, s1, s2, 2.0);
-    EXPECT_EQ(yd[0], 0.4);  // roll
-    EXPECT_EQ(yd[2], 0.9);  // pitch
-    EXPECT_EQ(yd[1], 0.6);  // yaw
-    EXPECT_EQ(yd[4], 0.5);  // rates untouched
+    EXPECT_EQ(yd, (Vec6{0.4, 0.6, 0.9, 0, 0.5, 0}));  // roll, yaw, pitch; rates untouched
 }
 
 TEST(ChoixTangage, DeuxiemeSolutionUnTourPlusBas) {
@@ -236,29 +227,27 @@ TEST(ChoixTangage, DeuxiemeSolutionUnTourPlusBas) {
     // -3.28318530717958 (0.283): s3 taken, its pitch not yet folded
     Vec6 yd{0, 0, -3, 0, 0, 0};
     choix_tangage(yd, Vec3{1, 0, 2}, Vec3{-1, 3, -2}, 1.0);
-    EXPECT_EQ(yd[0], -1.0);
+    EXPECT_EQ(std::pair(yd[0], yd[1]), std::pair(-1.0, -2.0));
     EXPECT_NEAR(yd[2], -3.28318530717958, 1e-14);
-    EXPECT_EQ(yd[1], -2.0);
     // a tie goes to the earlier test: s1 and s2 both 1 away, then s1's own
     // prediction (0 + 0) keeps s1 nearest
     Vec6 ze{0, 0, 0, 0, 0, 0};
     choix_tangage(ze, Vec3{1, -1, 1}, Vec3{2, 1, 2}, 1.0);
-    EXPECT_EQ(ze[0], 1.0);
-    EXPECT_EQ(ze[2], -1.0);
+    EXPECT_EQ(std::pair(ze[0], ze[2]), std::pair(1.0, -1.0));
 }
 
 TEST(TauxDifferences, SautDePlusDe300Degres) {
-    // plain difference: (0.1 - (-0.1)) / 0.5 = 0.4
-    EXPECT_NEAR(taux_differences(0.1, -0.1, 0.5), 0.4, 1e-15);
+    // plain difference: (0.1 - (-0.1)) / 0.5 = 0.4.
     // 3.1 after -3.1: 6.2 rad > 5.2359877 and the signs differ, q := -3.1 + 2 pi
-    // = 3.18318530717958, rate (3.1 - 3.18318530717958) / 2 = -0.04159265358979
-    EXPECT_NEAR(taux_differences(3.1, -3.1, 2.0), -0.04159265358979, 1e-13);
-    EXPECT_NEAR(taux_differences(-3.1, 3.1, 2.0), 0.04159265358979, 1e-13);
-    // 5.2 rad (298 deg) is no jump: 5.2 / 1
-    EXPECT_NEAR(taux_differences(2.6, -2.6, 1.0), 5.2, 1e-15);
+    // = 3.18318530717958, rate (3.1 - 3.18318530717958) / 2 = -0.04159265358979.
+    // 5.2 rad (298 deg) is no jump: 5.2 / 1.
     // over 300 deg with the same sign (not reachable after the fold, but the
     // guard wants both): no correction, (-0.1 - (-5.5)) / 1 = 5.4
-    EXPECT_NEAR(taux_differences(-0.1, -5.5, 1.0), 5.4, 1e-14);
+    struct Cas { double y, q, dt, attendu, tol; };
+    for (const Cas& c : {Cas{0.1, -0.1, 0.5, 0.4, 1e-15}, {3.1, -3.1, 2.0, -0.04159265358979, 1e-13},
+                         {-3.1, 3.1, 2.0, 0.04159265358979, 1e-13}, {2.6, -2.6, 1.0, 5.2, 1e-15},
+                         {-0.1, -5.5, 1.0, 5.4, 1e-14}})
+        EXPECT_NEAR(taux_differences(c.y, c.q, c.dt), c.attendu, c.tol) << c.y << " after " << c.q;
 }
 
 }  // namespace

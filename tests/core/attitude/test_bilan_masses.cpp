@@ -1,9 +1,16 @@
 // Totals of mass and inertia, and the face centres, worked by hand.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/attitude/bilan_masses.h"
 
 using namespace kestrel;
+using testing::DoubleEq;
+using testing::Pointwise;
+
+namespace {
+Vec3 diagonale(const AttitudeRecord& a) { return {a.I(0, 0), a.I(1, 1), a.I(2, 2)}; }
+}  // namespace
 
 TEST(BilanMasses, SansAjoutLesTotauxSontLeCorps) {
     AttitudeRecord a;
@@ -13,9 +20,7 @@ TEST(BilanMasses, SansAjoutLesTotauxSontLeCorps) {
     a.I = Mat3{};
     bilan_masses(a);
     EXPECT_EQ(a.Mt, 50.0);
-    EXPECT_EQ(a.I(0, 0), 2.188);
-    EXPECT_EQ(a.I(1, 1), 2.347);
-    EXPECT_EQ(a.I(2, 2), 2.541);
+    EXPECT_EQ(diagonale(a), (Vec3{2.188, 2.347, 2.541}));
     EXPECT_EQ(a.I(0, 1), 0.3);
     EXPECT_EQ(a.I(1, 0), 0.3);  // the product entered once, copied to its symmetric place
     EXPECT_EQ(a.I(0, 2), 0.0);
@@ -29,10 +34,7 @@ TEST(BilanMasses, MassesExternesEtAmortisseurs) {
     a.dext = {2, 0, 0};
     bilan_masses(a);
     EXPECT_DOUBLE_EQ(a.Mt, 51.0);
-    EXPECT_DOUBLE_EQ(a.I(0, 0), 2.188);
-    EXPECT_DOUBLE_EQ(a.I(1, 1), 2.347 + 8);
-    EXPECT_DOUBLE_EQ(a.I(2, 2), 2.541 + 8);
-
+    EXPECT_THAT(diagonale(a), Pointwise(DoubleEq(), Vec3{2.188, 2.347 + 8, 2.541 + 8}));
     // A damper of 0.5 kg at 0.1 m on z: Mt + 2·0.5, and 2·0.1²·0.5 = 0.01
     // on the two other axes.
     AttitudeRecord b;
@@ -40,9 +42,7 @@ TEST(BilanMasses, MassesExternesEtAmortisseurs) {
     b.ld = {0, 0, 0.1};
     bilan_masses(b);
     EXPECT_DOUBLE_EQ(b.Mt, 51.0);
-    EXPECT_DOUBLE_EQ(b.I(0, 0), 2.188 + 0.01);
-    EXPECT_DOUBLE_EQ(b.I(1, 1), 2.347 + 0.01);
-    EXPECT_DOUBLE_EQ(b.I(2, 2), 2.541);
+    EXPECT_THAT(diagonale(b), Pointwise(DoubleEq(), Vec3{2.188 + 0.01, 2.347 + 0.01, 2.541}));
 }
 
 TEST(BilanMasses, CentreDeMasseDecale) {
@@ -54,9 +54,7 @@ TEST(BilanMasses, CentreDeMasseDecale) {
     a.mext = {0, 1, 0};
     bilan_masses(a);
     EXPECT_DOUBLE_EQ(a.Mt, 51.0);
-    EXPECT_DOUBLE_EQ(a.I(0, 0), 4.268);
-    EXPECT_DOUBLE_EQ(a.I(1, 1), 2.867);
-    EXPECT_DOUBLE_EQ(a.I(2, 2), 5.141);
+    EXPECT_THAT(diagonale(a), Pointwise(DoubleEq(), Vec3{4.268, 2.867, 5.141}));
     EXPECT_DOUBLE_EQ(a.I(0, 1), 1.04);
     EXPECT_DOUBLE_EQ(a.I(1, 0), 1.04);
     EXPECT_EQ(a.I(0, 2), 0.0);
@@ -71,9 +69,7 @@ TEST(BilanMasses, CentresDesFaces) {
     faces_recalcul(a);
     const std::array<Vec3, 6> attendu{{{0.4, 0, 0}, {-0.1, 1, 0}, {-0.1, 0, 1.5},
                                        {-0.6, 0, 0}, {-0.1, -1, 0}, {-0.1, 0, -1.5}}};
-    for (int k = 0; k < 6; ++k)
-        for (int j = 0; j < 3; ++j) EXPECT_DOUBLE_EQ(a.face_c[k][j], attendu[k][j]) << k << "," << j;
-
+    for (int k = 0; k < 6; ++k) EXPECT_THAT(a.face_c[k], Pointwise(DoubleEq(), attendu[k])) << "face " << k;
     // Widening x by 0.4 moves the two x faces by 0.2 each.
     a.dim[0] = 1.4;
     faces_recalcul(a);
