@@ -2,22 +2,34 @@
 // Earth placed by hand, and the four layouts of the satellite.
 #pragma once
 #include <cmath>
+#include <initializer_list>
+
+#include <gtest/gtest.h>
 
 #include "core/etat.h"
 
 namespace kestrel::essai {
 
+// One named check of a table: obtained against expected within tol (0: equal).
+struct Attendu {
+    template <class O, class A>
+    Attendu(const char* n, O o, A a, double t)
+        : nom(n), obtenu(static_cast<double>(o)), attendu(static_cast<double>(a)), tol(t) {}
+    const char* nom;
+    double obtenu, attendu, tol;
+};
+inline void verifie(std::initializer_list<Attendu> table) {
+    for (const Attendu& a : table) EXPECT_NEAR(a.obtenu, a.attendu, a.tol) << a.nom;
+}
+
 // Unit direction of elevation el and azimuth az (rad) into the (z, sxy, az) form.
-inline void pose_soleil(PowerRecord& p, double el, double az) {
-    p.sun_z = std::sin(el);
-    p.sun_sxy = std::cos(el);
-    p.sun_az = az;
+inline void pose_direction(double& z, double& sxy, double& azimut, double el, double az) {
+    z = std::sin(el);
+    sxy = std::cos(el);
+    azimut = az;
 }
-inline void pose_nadir(PowerRecord& p, double el, double az) {
-    p.nad_z = std::sin(el);
-    p.nad_sxy = std::cos(el);
-    p.nad_az = az;
-}
+inline void pose_soleil(PowerRecord& p, double el, double az) { pose_direction(p.sun_z, p.sun_sxy, p.sun_az, el, az); }
+inline void pose_nadir(PowerRecord& p, double el, double az) { pose_direction(p.nad_z, p.nad_sxy, p.nad_az, el, az); }
 
 // Sun at the zenith of +z, Earth under -z, 7000 km from the centre, no albedo
 // or infrared: only the top surface sees anything.

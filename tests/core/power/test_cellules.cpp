@@ -9,46 +9,47 @@ namespace {
 
 constexpr double T_REF_K = 28.0 + 273.15;  // the cells' reference temperature
 
-TEST(CellEfficiency, BusAboveTheStringVocGivesNothing) {
-    Etat e;  // one cell in series, Voc 1 V
-    e.pwr.gst_regulated = 1;
-    e.pwr.gst_vregul = 1.0001f;
-    EXPECT_EQ(cell_efficiency(e, T_REF_K), 0.0f);
-    // The new-project bus: 10 accumulators at 1.3 V on a 1 V cell.
-    e.pwr.gst_regulated = 0;
-    e.pwr.bat_v = 1.3;
-    EXPECT_EQ(cell_efficiency(e, T_REF_K), 0.0f);
+// Default cell: one in series, Voc 1 V, Vmp 0.86 V at 28 °C.
+Etat bus_cellule(int16_t regule, double v) {
+    Etat e;
+    e.pwr.gst_regulated = regule;
+    e.pwr.gst_vregul = static_cast<float>(v);
+    e.pwr.bat_v = v;
+    return e;
 }
 
-TEST(CellEfficiency, EmptyBatteryBusGivesShortCircuitCurrentAndZero) {
-    Etat e;
-    e.pwr.gst_regulated = 0;
-    e.pwr.bat_v = 0;  // I = np * Isc, but P = I * 0
-    EXPECT_EQ(cell_efficiency(e, T_REF_K), 0.0f);
+TEST(CellEfficiency, BusAtOrAboveTheStringVocGivesNothing) {
+    struct Cas {
+        int16_t regule;
+        double v, dt;
+    };
+    const Cas cas[] = {
+        {1, 1.0001, 0},  // just above Voc
+        {0, 1.3, 0},     // the new-project bus: 10 accumulators at 1.3 V on a 1 V cell
+        {0, 0.0, 0},     // empty battery: I = np * Isc, but P = I * 0
+        {1, 0.8, 101},   // Voc falls 1 mV/K: 0.8 V at 100 °C above, below the bus at 101
+    };
+    for (const Cas& c : cas) {
+        Etat e = bus_cellule(c.regule, c.v);
+        EXPECT_EQ(cell_efficiency(e, T_REF_K + c.dt), 0.0f) << c.v << " " << c.dt;
+    }
 }
 
 TEST(CellEfficiency, PassesThroughTheMaximumPowerPoint) {
     Etat e;
-    e.pwr.gst_regulated = 1;
-    e.pwr.gst_vregul = e.pwr.cel_vmp;  // 0.86 V at 28 °C
+    e = bus_cellule(1, e.pwr.cel_vmp);  // 0.86 V at 28 °C
     // a = ln(0.53/0.03), Vt = 0.14/a, I0 = Isc/(exp(Voc/Vt)-1): I(Vmp) = Imp
     // to 6e-10, so eff = 0.5 * 0.86 * 10000 / 1368 / 16 = 0.196455
     EXPECT_NEAR(cell_efficiency(e, T_REF_K), 0.19645468, 1e-7);
 }
 
 TEST(CellEfficiency, TemperatureAndEndOfLife) {
-    Etat e;
-    e.pwr.gst_regulated = 1;
-    e.pwr.gst_vregul = 0.8f;
+    Etat e = bus_cellule(1, 0.8);
     // 50 °C above the reference: Voc = 1 - 0.1 = 0.9 V, still above the bus.
-    const float chaud = cell_efficiency(e, T_REF_K + 50);
-    EXPECT_GT(chaud, 0.0f);
-    // 100 °C above: Voc = 0.8 V, the bus is not above it... at 101 °C it is.
-    EXPECT_EQ(cell_efficiency(e, T_REF_K + 101), 0.0f);
+    EXPECT_GT(cell_efficiency(e, T_REF_K + 50), 0.0f);
     // End of life with Voc x 0.85 = 0.85 V, Vmp x 0.85: at 0.8 V the current
     // falls; "BOL" is unaffected by the ratios.
-    e.pwr.cel_radvoc = 0.85f;
-    e.pwr.cel_radvmp = 0.85f;
+    e.pwr.cel_radvoc = e.pwr.cel_radvmp = 0.85f;
     const float debut = cell_efficiency(e, T_REF_K);
     e.pwr.cel_opt_beol = 1;
     const float fin = cell_efficiency(e, T_REF_K);
@@ -66,21 +67,19 @@ TEST(Generators, AreasAndSums) {
     p.cel_np = 3;
     p.cel_ns = 1;
     p.node_t.fill(T_REF_K);
-    const double eff = 0.19645468;
-    // External: panel front to +z; 3 cells of 16 cm² = 0.0048 m², two panels.
+    const double eff = 0.19645468, aire = 0.0048;  // 3 cells of 16 cm²
+    // External: panel front to +z, two panels.
     p.pan_angle = PI / 2;
     generator_ext_panels(e);
-    EXPECT_NEAR(p.pan_power[0], 1000 * eff * 0.0048, 1e-6);
-    EXPECT_NEAR(p.gen_power, 2 * 1000 * eff * 0.0048, 1e-6);
-    // Faces with the Sun on the face of azimuth 0 at 30 deg from its normal.
+    EXPECT_NEAR(p.pan_power[0], 1000 * eff * aire, 1e-6);
+    EXPECT_NEAR(p.gen_power, 2 * 1000 * eff * aire, 1e-6);
+    // Faces with the Sun on the face of azimuth 0 at 30 deg from its normal;
+    // the face at 90 deg is 60 deg off, on the parabola (0.459722).
     essai::pose_faces(p, 0);
     essai::pose_soleil(p, 0, 30 * DEG_RAD);
     generator_faces(e);
-    EXPECT_NEAR(p.pan_power[0], 1000 * std::cos(30 * DEG_RAD) * eff * 0.0048, 1e-6);
-    // face at 90 deg: 60 deg off, on the parabola (0.459722)
-    EXPECT_NEAR(p.pan_power[1], 1000 * 0.4597216056 * eff * 0.0048, 1e-6);
-    EXPECT_EQ(p.pan_power[2], 0.0);
-    EXPECT_EQ(p.pan_power[3], 0.0);
+    const double faces[4] = {std::cos(30 * DEG_RAD), 0.4597216056, 0, 0};
+    for (int i = 0; i < 4; ++i) EXPECT_NEAR(p.pan_power[i], 1000 * faces[i] * eff * aire, 1e-6) << i;
     EXPECT_NEAR(p.gen_power, p.pan_power[0] + p.pan_power[1], 1e-12);
     // Cylinder: strip area from the width alone (0.4 m * 10 deg), the strip
     // centred on 5 deg sees the Sun 25 deg off.

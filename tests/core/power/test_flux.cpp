@@ -11,7 +11,7 @@ namespace {
 
 using essai::etat_soleil_zenith;
 
-TEST(CellCosine, CosineThenParabolaReachingZeroAtIncMax) {
+TEST(CellCosine, CosineThenParabolaReachingZeroAtIncMaxWithTheSlopeKeptAtIncDiv) {
     Etat e;  // inc_div 50 deg, inc_max 75 deg
     EXPECT_DOUBLE_EQ(cell_cosine(e, 0.0), 1.0);
     EXPECT_DOUBLE_EQ(cell_cosine(e, 40 * DEG_RAD), std::cos(40 * DEG_RAD));
@@ -21,20 +21,14 @@ TEST(CellCosine, CosineThenParabolaReachingZeroAtIncMax) {
     EXPECT_NEAR(cell_cosine(e, 75 * DEG_RAD - 1e-9), 0.0, 1e-8);
     EXPECT_EQ(cell_cosine(e, 80 * DEG_RAD), 0.0);
     EXPECT_EQ(cell_cosine(e, PI), 0.0);  // behind the cell: never negative
-}
-
-TEST(CellCosine, ContinuousInValueAndSlopeAtIncDiv) {
-    Etat e;
     const double d = 50 * DEG_RAD, h = 1e-6;
     EXPECT_NEAR(cell_cosine(e, d + 1e-12), std::cos(d), 1e-10);
     // Slope of the cosine there: -sin d = -0.766044 on both sides.
-    const double gauche = (cell_cosine(e, d) - cell_cosine(e, d - h)) / h;
-    const double droite = (cell_cosine(e, d + h) - cell_cosine(e, d)) / h;
-    EXPECT_NEAR(gauche, -std::sin(d), 1e-5);
-    EXPECT_NEAR(droite, -std::sin(d), 1e-5);
+    EXPECT_NEAR((cell_cosine(e, d) - cell_cosine(e, d - h)) / h, -std::sin(d), 1e-5);
+    EXPECT_NEAR((cell_cosine(e, d + h) - cell_cosine(e, d)) / h, -std::sin(d), 1e-5);
 }
 
-TEST(Flux, SunAtZenithOfAFace) {
+TEST(Flux, SunOnTheTopFaceAtZenithGrazingAndBehind) {
     Etat e = etat_soleil_zenith(1000.0);
     EXPECT_NEAR(incidence_sun(e, PI / 2, 0), 0.0, 1e-7);
     EXPECT_NEAR(solar_flux_direct(e, PI / 2, 0), 1000.0, 1e-9);
@@ -43,10 +37,7 @@ TEST(Flux, SunAtZenithOfAFace) {
     // A lateral face sees the Sun at grazing incidence: nothing.
     EXPECT_NEAR(solar_flux_direct(e, 0, 0), 0.0, 1e-9);
     EXPECT_EQ(cell_flux(e, 0, 0), 0.0);
-}
-
-TEST(Flux, SunBehindTheFaceGivesNothing) {
-    Etat e = etat_soleil_zenith(1000.0);
+    // The bottom face has it behind.
     EXPECT_NEAR(incidence_sun(e, -PI / 2, 0), PI, 1e-7);
     EXPECT_EQ(solar_flux_direct(e, -PI / 2, 0), 0.0);
     EXPECT_EQ(cell_flux(e, -PI / 2, 0), 0.0);
@@ -67,7 +58,7 @@ TEST(Flux, EclipseRemovesTheSunButNotTheEarth) {
     EXPECT_NEAR(solar_albedo_flux(e, -PI / 2, 0), 200.0 * 0.8256243963, 1e-7);
 }
 
-TEST(Flux, SunAtSixtyDegreesOnALateralFace) {
+TEST(Flux, SunAtThirtyAndSixtyDegreesOnALateralFace) {
     Etat e = etat_soleil_zenith(1000.0);
     essai::pose_soleil(e.pwr, 30 * DEG_RAD, 0);  // 30 deg from the face (0, 0)
     EXPECT_NEAR(solar_flux_direct(e, 0, 0), 1000 * std::cos(30 * DEG_RAD), 1e-7);
@@ -80,17 +71,14 @@ TEST(Flux, SunAtSixtyDegreesOnALateralFace) {
 
 TEST(EarthViewFactor, FormulaOnBothSidesOfNinetyAndTheCut) {
     Etat e = etat_soleil_zenith();
-    // r = 7000 km, h = 621.863 km, L = ln h = 6.432720, F0 = 0.825624
-    EXPECT_NEAR(earth_view_factor(e, 0), 0.8256243963, 1e-9);
+    // r = 7000 km, h = 621.863 km, L = ln h = 6.432720. A normal turned away
+    // from the Earth still gets some infrared; F falls through 0.001 between
+    // 149 deg (0.001097) and 150 deg (0.000626), then the fit rises again
+    // towards 180 deg: 0.0416934 straight behind.
+    const double cas[][2] = {{0, 0.8256243963},   {60, 0.4355412616}, {120, 0.0664021061},
+                             {149, 0.0010971026}, {150, 0.0},         {180, 0.0416929840}};
+    for (const auto& c : cas) EXPECT_NEAR(earth_view_factor(e, c[0]), c[1], 1e-9) << c[0];
     EXPECT_NEAR(e.pwr.earth_half, std::asin(6378.137 / 7000.0), 1e-12);
-    EXPECT_NEAR(earth_view_factor(e, 60), 0.4355412616, 1e-9);
-    // A normal turned away from the Earth still gets some infrared.
-    EXPECT_NEAR(earth_view_factor(e, 120), 0.0664021061, 1e-9);
-    // F falls through 0.001 between 149 deg (0.001097) and 150 deg (0.000626).
-    EXPECT_NEAR(earth_view_factor(e, 149), 0.0010971026, 1e-9);
-    EXPECT_EQ(earth_view_factor(e, 150), 0.0);
-    // The fit rises again towards 180 deg: 0.0416934 straight behind.
-    EXPECT_NEAR(earth_view_factor(e, 180), 0.0416929840, 1e-9);
 }
 
 }  // namespace

@@ -21,49 +21,39 @@ Etat geometrie_panneau() {
     return e;
 }
 
-TEST(PanelTarget, SunlitWithoutAlbedoFacesTheSun) {
-    Etat e = geometrie_panneau();
-    panel_target_update(e);
-    // atan(sin 30 / (cos 30 * cos 0)) = 30 deg
-    EXPECT_NEAR(e.pwr.pan_target, 30 * DEG_RAD, 1e-12);
-}
-
-TEST(PanelTarget, EclipseWithAlbedoFollowsTheEarth) {
-    Etat e = geometrie_panneau();
-    e.pwr.eclipse = VRAI;
-    e.pwr.flux_alb = 300;
-    panel_target_update(e);
-    // k = 0: atan(nad_z / nad_sxy) = -60 deg, the panel looks at nadir.
-    EXPECT_NEAR(e.pwr.pan_target, -60 * DEG_RAD, 1e-12);
-}
-
-TEST(PanelTarget, EclipseWithoutAlbedoHasNoTarget) {
-    Etat e = geometrie_panneau();
-    e.pwr.eclipse = VRAI;
-    e.pwr.pan_angle = 0.3;
-    panel_target_update(e);
-    EXPECT_EQ(e.pwr.pan_target, PAS_DE_CIBLE);
-    // With no target the panel stays where it is.
-    panel_drive_update(e, 60);
-    EXPECT_EQ(e.pwr.pan_angle, 0.3);
-}
-
-TEST(PanelTarget, FlipsWhenTheRearWouldSeeMore) {
-    Etat e = geometrie_panneau();
-    // Sun at 30 deg elevation on the azimuth 0 side: the closed form gives
-    // atan(0.5 / (0.866 * cos(-pi))) = -30 deg, whose front faces away;
-    // the flip subtracts sign(-30 deg) * pi: 150 deg.
-    pose_soleil(e.pwr, 30 * DEG_RAD, 0);
-    panel_target_update(e);
-    EXPECT_NEAR(e.pwr.pan_target, -30 * DEG_RAD + PI, 1e-12);
-}
-
-TEST(PanelTarget, NegativeAlbedoKeepsThePreviousTarget) {
-    Etat e = geometrie_panneau();
-    e.pwr.flux_alb = -1;
-    e.pwr.pan_target = 0.42;
-    panel_target_update(e);
-    EXPECT_EQ(e.pwr.pan_target, 0.42);
+TEST(PanelTarget, ClosedFormInEachLightingCase) {
+    struct Cas {
+        const char* nom;
+        int16_t eclipse;
+        double albedo, sun_az, attendu;
+    };
+    const Cas cas[] = {
+        // atan(sin 30 / (cos 30 * cos 0)) = 30 deg
+        {"sunlit without albedo faces the Sun", FAUX, 0, PI, 30 * DEG_RAD},
+        // k = 0: atan(nad_z / nad_sxy) = -60 deg, the panel looks at nadir.
+        {"eclipse with albedo follows the Earth", VRAI, 300, PI, -60 * DEG_RAD},
+        {"eclipse without albedo has no target", VRAI, 0, PI, PAS_DE_CIBLE},
+        // Sun on the azimuth 0 side: atan(0.5 / (0.866 * cos(-pi))) = -30 deg,
+        // whose front faces away; the flip subtracts sign(-30 deg) * pi: 150 deg.
+        {"flips when the rear would see more", FAUX, 0, 0, -30 * DEG_RAD + PI},
+        {"negative albedo keeps the previous target", FAUX, -1, PI, 0.42},
+    };
+    for (const Cas& c : cas) {
+        SCOPED_TRACE(c.nom);
+        Etat e = geometrie_panneau();
+        e.pwr.eclipse = c.eclipse;
+        e.pwr.flux_alb = c.albedo;
+        e.pwr.pan_target = 0.42;
+        e.pwr.pan_angle = 0.3;
+        pose_soleil(e.pwr, 30 * DEG_RAD, c.sun_az);
+        panel_target_update(e);
+        EXPECT_NEAR(e.pwr.pan_target, c.attendu, 1e-12);
+        // With no target the panel stays where it is.
+        panel_drive_update(e, 60);
+        if (c.attendu == PAS_DE_CIBLE) {
+            EXPECT_EQ(e.pwr.pan_angle, 0.3);
+        }
+    }
 }
 
 TEST(PanelTarget, RefinedFallsBackOrFindsAZeroOfTheSlope) {
@@ -77,26 +67,28 @@ TEST(PanelTarget, RefinedFallsBackOrFindsAZeroOfTheSlope) {
     EXPECT_NE(a, e.pwr.pan_target);
     EXPECT_FALSE(e.faute);
     // At the optimum the cell flux is flat: f(a +- h) no higher than f(a).
-    const double h = 1e-3;
-    EXPECT_LE(cell_flux(e, a + h, PI), cell_flux(e, a, PI) + 1e-6);
-    EXPECT_LE(cell_flux(e, a - h, PI), cell_flux(e, a, PI) + 1e-6);
+    for (double h : {1e-3, -1e-3}) EXPECT_LE(cell_flux(e, a + h, PI), cell_flux(e, a, PI) + 1e-6);
     // Between the Earth (-40 deg) and the Sun (30 deg).
     EXPECT_GT(a, -40 * DEG_RAD);
     EXPECT_LT(a, 30 * DEG_RAD);
 }
 
-// Servo: 0 -> 10 deg, delay 150 s, steps of 60 s, 0.1 deg/s, dead band 0.5 deg.
-TEST(PanelDrive, DelayLongerThanAStepThenWholeSteps) {
+// A moving panel at angle 0 with no delay running.
+Etat servo(double delai, double vitesse, double cible) {
     Etat e;
     PowerRecord& p = e.pwr;
     p.pan_fixed = FAUX;
-    p.pan_delay = 150;
-    p.pan_speed = 0.1f;
-    p.pan_tolerance = 0.5f;
-    p.pan_angle = 0;
+    p.pan_delay = static_cast<int32_t>(delai);
+    p.pan_speed = static_cast<float>(vitesse);
     p.pan_wait = -1;
-    p.pan_moving = FAUX;
-    p.pan_target = 10 * DEG_RAD;
+    p.pan_target = cible;
+    return e;
+}
+
+// Servo: 0 -> 10 deg, delay 150 s, steps of 60 s, 0.1 deg/s, dead band 0.5 deg.
+TEST(PanelDrive, DelayLongerThanAStepThenWholeSteps) {
+    Etat e = servo(150, 0.1, 10 * DEG_RAD);
+    PowerRecord& p = e.pwr;
     // wait 150 -> 90 -> 30 -> -30: n = 0, 0, 0 (clamped), then 30 s at 0.1 deg/s;
     // then n = 60 - (-30) = 90 -> 60 s: +6 deg; then the last degree.
     const double attendu[6] = {0, 0, 0, 3, 9, 10};
@@ -110,11 +102,9 @@ TEST(PanelDrive, DelayLongerThanAStepThenWholeSteps) {
     EXPECT_EQ(p.pan_angle, p.pan_target);
 }
 
-TEST(PanelDrive, FixedPanelsAndTheDeadBand) {
-    Etat e;
+TEST(PanelDrive, FixedPanelsTheDeadBandAndTheShortWayRound) {
+    Etat e = servo(0, 1.0, 0.2);
     PowerRecord& p = e.pwr;
-    p.pan_wait = -1;
-    p.pan_target = 0.2;
     p.pan_fixed = VRAI;
     panel_drive_update(e, 60);
     EXPECT_EQ(p.pan_angle, 0.0);
@@ -122,15 +112,6 @@ TEST(PanelDrive, FixedPanelsAndTheDeadBand) {
     p.pan_target = 0.3 * DEG_RAD;  // inside the 0.5 deg band: no move
     panel_drive_update(e, 60);
     EXPECT_EQ(p.pan_angle, 0.0);
-}
-
-TEST(PanelDrive, ShortWayRoundAndWrapPastPi) {
-    Etat e;
-    PowerRecord& p = e.pwr;
-    p.pan_fixed = FAUX;
-    p.pan_delay = 0;
-    p.pan_speed = 1.0f;
-    p.pan_wait = -1;
     p.pan_angle = 3.0;
     p.pan_target = -3.0;
     // delta = -6 is beyond pi: sense +1, 60 deg in 60 s (1.047 rad, below the

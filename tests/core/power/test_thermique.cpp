@@ -29,8 +29,7 @@ Etat deux_noeuds_faces(int opt_faces) {
     p.fac_eps = {0, 0.5f, 0};
     p.fac_cond = {0, 2, 0};
     p.fac_rad = {0, 0.1f, 0};
-    p.fac_mass = {5, 2, 5};
-    p.fac_cp = {800, 800, 800};
+    p.fac_mass = {5, 2, 5};  // 800 J/kg/K
     p.cyl_cond = 0;
     p.int_mass = 10;
     p.int_cp = 500;
@@ -39,28 +38,27 @@ Etat deux_noeuds_faces(int opt_faces) {
     return e;
 }
 
-TEST(Alpha, NewAtDateCellAndNinetyNinePercentAtT99) {
-    PowerRecord p;
+TEST(Alpha, NewAtDateCellNinetyNinePercentAtT99AndTheExponentGrouping) {
+    PowerRecord p;  // date_cell 17897
     EXPECT_NEAR(alpha(p, static_cast<float>(p.date_cell), 0.2f, 0.4f, 1000), 0.2, 1e-7);
     // t99 = 1200 h = 50 days later: alim (1 - 0.01) = 0.396
     EXPECT_NEAR(alpha(p, static_cast<float>(p.date_cell + 50), 0.2f, 0.4f, 1200), 0.396, 1e-7);
+    // The ageing exponent is (rate * days) * 24: the other grouping differs in
+    // the last bits 10.25 days later.
+    const float t = 17907.25f;
+    const double q = 1.0 - static_cast<double>(0.2f) / 0.5f;
+    const double taux = -std::log(q * 100) / 1000;
+    const double attendu = 0.5f * (1 - q * std::exp(taux * (t - 17897.0) * 24));
+    ASSERT_NE(attendu, 0.5f * (1 - q * std::exp(taux * ((t - 17897.0) * 24))));
+    EXPECT_EQ(alpha(p, t, 0.2f, 0.5f, 1000), attendu);
 }
 
 // The terms of a face are summed left to right, balance + conduction +
-// radiation, and the ageing exponent is (rate * days) * 24: other groupings
-// differ in the last bits. Each case below is chosen so that they do, and
-// unit heat capacities keep that difference visible after one pass.
+// radiation: other groupings differ in the last bits. Each case below is
+// chosen so that they do, and unit heat capacities keep that difference
+// visible after one pass.
 TEST(ThermalOrder, TermsSummedAsWritten) {
     const double t4_300 = 8.1e9, t4_310 = 9235210000.0;  // 300^4, 310^4, exact
-    {
-        PowerRecord p;  // date_cell 17897, 10.25 days later
-        const float t = 17907.25f;
-        const double q = 1.0 - static_cast<double>(0.2f) / 0.5f;
-        const double taux = -std::log(q * 100) / 1000;
-        const double attendu = 0.5f * (1 - q * std::exp(taux * (t - 17897.0) * 24));
-        ASSERT_NE(attendu, 0.5f * (1 - q * std::exp(taux * ((t - 17897.0) * 24))));
-        EXPECT_EQ(alpha(p, t, 0.2f, 0.5f, 1000), attendu);
-    }
     // Face at 300 K, internal node at 310 K, no flux: balance -eps sigma 300^4,
     // conduction (310 - 300) * 3, radiation sigma * 0.005 * (310^4 - 300^4).
     const double bilan = 0.0 - (0.75f * SIGMA) * t4_300;
@@ -68,107 +66,81 @@ TEST(ThermalOrder, TermsSummedAsWritten) {
     const double rayonnement = (SIGMA * 0.005f) * (t4_310 - t4_300);
     const double attendu = 300.0 + ((bilan + conduction) + rayonnement);  // -14.1306679721935
     ASSERT_NE(attendu, 300.0 + (bilan + (conduction + rayonnement)));
-    {
-        Etat e = essai::etat_soleil_zenith(0.0);
-        e.session.pas_sim = 1;
-        PowerRecord& p = e.pwr;
-        p.ext_eps.fill(0.75f);
-        p.ext_cond.fill(3);
-        p.ext_rad.fill(0.005f);
-        p.ext_mass[2] = 1;
-        p.ext_cp[2] = 1;
-        p.node_t.fill(300.0);
-        p.node_t[8] = 310.0;
-        thermal_ext_panels(e);
-        EXPECT_EQ(p.node_t[2], attendu);
-    }
-    {
-        Etat e = deux_noeuds_faces(0);
-        e.pwr.flux_sun = 0;
-        e.pwr.fac_eps[0] = 0.75f;
-        e.pwr.fac_cond[0] = 3;
-        e.pwr.fac_rad[0] = 0.005f;
-        e.pwr.fac_mass[0] = 1;
-        e.pwr.fac_cp[0] = 1;
-        e.pwr.node_t.fill(300.0);
-        e.pwr.node_t[10] = 310.0;
-        thermal_faces(e);
-        EXPECT_EQ(e.pwr.node_t[0], attendu);
-    }
-    {
-        // Strip 0 at 300 K between two at 280 K, wall conduction alone:
-        // (2*300 - 280 - 280) * 0.5 / (0.5 * 10 deg) = 229.183 W/m², taken as
-        // (x * cond) / width.
-        Etat e = deux_noeuds_faces(2);
-        e.pwr.flux_sun = 0;
-        e.pwr.cyl_cond = 0.5f;
-        e.pwr.fac_mass[0] = 1;
-        e.pwr.fac_cp[0] = 1;
-        e.pwr.node_t[0] = 300.0;
-        const double bande = 0.5f * 0.17453292519943278;
-        const double att = 300.0 + (0.0 - (40.0 * 0.5f) / bande);  // 70.8168819476705
-        ASSERT_NE(att, 300.0 + (0.0 - 40.0 * (0.5f / bande)));
-        thermal_cylinder(e);
-        EXPECT_EQ(e.pwr.node_t[0], att);
-    }
-}
-
-TEST(ThermalFaces, OnePassMatchesHandEuler) {
+    // The same face in the external-panel layout (node 2) and on the prism (node 0).
     Etat e = deux_noeuds_faces(0);
-    auto& T = e.pwr.node_t;
-    T[8] = T_CHAUD;
-    T[10] = T_INT;
-    thermal_faces(e);
-    // top: (0.2*1000 - 0.5 s 300^4 + (290-300)*2 + s 0.1 (290^4-300^4)) / 1600
-    //      = (200 - 229.635 - 20 - 5.8241673) / 1600 = -0.0346620
-    EXPECT_NEAR(T[8], 299.9653380204, TOL_K);
-    // internal, lid 0.25 m²: (30 + 20*0.25 + 0.25*5.8241673) / 5000 = 0.0072912
-    EXPECT_NEAR(T[10], 290.0072912084, 1e-9);
-    for (int i : {0, 1, 2, 3, 9}) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
-    EXPECT_EQ(e.pwr.t_bat, 20.0);  // the battery does not follow the node here
+    PowerRecord& p = e.pwr;
+    p.flux_sun = 0;
+    p.ext_eps.fill(0.75f);
+    p.ext_cond.fill(3);
+    p.ext_rad.fill(0.005f);
+    p.ext_mass[2] = p.ext_cp[2] = 1;
+    p.fac_eps[0] = 0.75f;
+    p.fac_cond[0] = 3;
+    p.fac_rad[0] = 0.005f;
+    p.fac_mass[0] = p.fac_cp[0] = 1;
+    p.node_t.fill(300.0);
+    p.node_t[8] = p.node_t[10] = 310.0;
+    Etat f = e;
+    thermal_ext_panels(e);
+    thermal_faces(f);
+    EXPECT_EQ(p.node_t[2], attendu);
+    EXPECT_EQ(f.pwr.node_t[0], attendu);
 }
 
-TEST(ThermalFaces, HexagonalLidArea) {
-    Etat e = deux_noeuds_faces(1);
-    auto& T = e.pwr.node_t;
-    T[8] = T_CHAUD;
-    T[10] = T_INT;
-    thermal_faces(e);
-    // lid = (6 * 0.25 / 4) / tan(pi/6) = 0.649519 m²:
-    // (30 + (20 + 5.8241673) * 0.649519) / 5000 = 0.0093549
-    const double lid = (6 * 0.25 / 4) / std::tan(PI / 6);
-    EXPECT_NEAR(T[10] - T_INT, (30 + (20 + 5.8241673) * lid) / 5000, 1e-8);
-}
-
-TEST(ThermalCylinder, OnePassMatchesHandEuler) {
-    Etat e = deux_noeuds_faces(2);
-    auto& T = e.pwr.node_t;
-    T[36] = T_CHAUD;
-    T[38] = T_INT;
-    thermal_cylinder(e);
-    // top as the prism's; internal with disc = pi 0.5^2 / 4 = 0.196350 m²:
-    // (30 + 20*0.19635 + 0.19635*5.8241673) / 5000 = 0.0070141
-    EXPECT_NEAR(T[36], 299.9653380204, TOL_K);
-    EXPECT_NEAR(T[38], 290.0070141127, 1e-9);
-    EXPECT_NEAR(e.pwr.t_bat, 290.0070141127 - 273.15, 1e-9);
-    for (int i = 0; i < 36; ++i) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
+// One pass with the top at 300 K and the internal node at 290 K:
+// top: (0.2*1000 - 0.5 s 300^4 + (290-300)*2 + s 0.1 (290^4-300^4)) / 1600
+//      = (200 - 229.635 - 20 - 5.8241673) / 1600 = -0.0346620 in every layout;
+// internal: (30 + (20 + 5.8241673) * lid) / 5000 with the lid 0.25 m² on the
+// square (0.0072912), (6 * 0.25 / 4) / tan(pi/6) = 0.649519 m² on the hexagon
+// (0.0093549) and pi 0.5^2 / 4 = 0.196350 m² on the cylinder (0.0070141).
+// Only the cylinder's battery follows the internal node.
+TEST(Thermal, OnePassMatchesHandEulerInEachLayout) {
+    struct Cas {
+        int opt, haut, interne, noeuds;
+        double lid;
+    };
+    const Cas cas[] = {{0, 8, 10, 11, 0.25}, {1, 8, 10, 11, (6 * 0.25 / 4) / std::tan(PI / 6)},
+                       {2, 36, 38, 39, PI * 0.25 / 4}};
+    for (const Cas& c : cas) {
+        SCOPED_TRACE(c.opt);
+        Etat e = deux_noeuds_faces(c.opt);
+        auto& T = e.pwr.node_t;
+        T[c.haut] = T_CHAUD;
+        T[c.interne] = T_INT;
+        c.opt == 2 ? thermal_cylinder(e) : thermal_faces(e);
+        const double interne = T_INT + (30 + (20 + 5.8241673) * c.lid) / 5000;
+        EXPECT_NEAR(T[c.haut], 299.9653380204, TOL_K);
+        EXPECT_NEAR(T[c.interne], interne, 1e-9);
+        EXPECT_NEAR(e.pwr.t_bat, c.opt == 2 ? interne - 273.15 : 20.0, 1e-9);
+        for (int i = 0; i < c.noeuds; ++i) {
+            if (i == c.haut || i == c.interne) continue;
+            EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
+        }
+    }
 }
 
 TEST(ThermalCylinder, WallConductionBetweenNeighbours) {
     Etat e = deux_noeuds_faces(2);
-    e.pwr.cyl_cond = 0.5f;
-    e.pwr.p_heat = 0;
-    auto& T = e.pwr.node_t;
-    T.fill(T_FROID);
-    T[0] = T_CHAUD;
+    PowerRecord& p = e.pwr;
+    p.flux_sun = 0;
+    p.cyl_cond = 0.5f;
+    p.p_heat = 0;
+    p.node_t[0] = T_CHAUD;
+    // Strip 0 at 300 K between two at 280 K, strip width 0.5 * 10 deg =
+    // 0.0872665 m: it loses (2*300 - 280 - 280) * 0.5 / 0.0872665 = 229.183
+    // W/m², taken as (x * cond) / width (the other grouping differs in the
+    // last bits, seen through a unit heat capacity); its neighbours 35 and 1,
+    // across the seam, gain half of it each over 5 * 800.
+    Etat u = e;
+    u.pwr.fac_mass[0] = u.pwr.fac_cp[0] = 1;
+    const double bande = 0.5f * 0.17453292519943278;
+    const double att = 300.0 + (0.0 - (40.0 * 0.5f) / bande);  // 70.8168819476705
+    ASSERT_NE(att, 300.0 + (0.0 - 40.0 * (0.5f / bande)));
+    thermal_cylinder(u);
+    EXPECT_EQ(u.pwr.node_t[0], att);
     thermal_cylinder(e);
-    // strip width 0.5 * 0.174533 = 0.0872665 m; strip 0 loses
-    // (2*300 - 280 - 280) * 0.5 / 0.0872665 = 229.183 W/m² (checked to the
-    // bit in ThermalOrder); its neighbours 35 and 1, across the seam, gain
-    // half of it each over 5 * 800.
-    EXPECT_NEAR(T[35], T_FROID + 114.5915590 / 4000, 1e-7);
-    EXPECT_NEAR(T[1], T_FROID + 114.5915590 / 4000, 1e-7);
-    EXPECT_NEAR(T[2], T_FROID, 1e-12);
+    for (int i : {35, 1}) EXPECT_NEAR(p.node_t[i], T_FROID + 114.5915590 / 4000, 1e-7) << i;
+    EXPECT_NEAR(p.node_t[2], T_FROID, 1e-12);
 }
 
 // The internal node alone, heated by 800 W at 800 J/K: one kelvin per
@@ -185,16 +157,16 @@ TEST(ThermalCylinder, PassCountsAndDroppedSeconds) {
         EXPECT_EQ(passes_cylindre(c.pas, k), c.passes) << c.pas;
         EXPECT_EQ(k, c.k) << c.pas;
         Etat e = deux_noeuds_faces(2);
-        e.pwr.fac_eps[1] = 0;
-        e.pwr.fac_cond = {0, 0, 0};
-        e.pwr.fac_rad = {0, 0, 0};
-        e.pwr.int_mass = 1;
-        e.pwr.int_cp = 800;
-        e.pwr.p_heat = 800;
-        e.pwr.eclipse = VRAI;
+        PowerRecord& p = e.pwr;
+        p.fac_eps[1] = 0;
+        p.fac_cond = p.fac_rad = {0, 0, 0};
+        p.int_mass = 1;
+        p.int_cp = 800;
+        p.p_heat = 800;
+        p.eclipse = VRAI;
         e.session.pas_sim = c.pas;
         thermal_cylinder(e);
-        EXPECT_NEAR(e.pwr.node_t[38] - T_FROID, c.secondes, 1e-9) << c.pas;
+        EXPECT_NEAR(p.node_t[38] - T_FROID, c.secondes, 1e-9) << c.pas;
     }
 }
 
@@ -223,25 +195,22 @@ TEST(ThermalExtPanels, OnePassMatchesHandEuler) {
     T[1] = -1;  // no temperature of its own: left alone
     thermal_ext_panels(e);
     // panel: (0.8*1000 - 0.8 s 320^4 - 0.9 s 320^4 - 50/0.5) / 9000 = -0.0345247
-    EXPECT_NEAR(T[0], 319.9654752882, TOL_K);
     // top face: (0.3*1000 - 0.6 s 300^4 - 20 - 5.8241673) / 4000 = -0.0003465
-    EXPECT_NEAR(T[6], 299.9996534582, TOL_K);
     // internal: (0.3 * (20 + 5.8241673) + 30) / 12000 = 0.0031456
-    EXPECT_NEAR(T[8], 290.0031456042, 1e-9);
-    EXPECT_NEAR(p.t_bat, 290.0031456042 - 273.15, 1e-9);
-    EXPECT_EQ(T[1], -1);
+    essai::verifie({{"panel", T[0], 319.9654752882, TOL_K}, {"top", T[6], 299.9996534582, TOL_K},
+                    {"internal", T[8], 290.0031456042, 1e-9}, {"t_bat", p.t_bat, 290.0031456042 - 273.15, 1e-9},
+                    {"rear", T[1], -1, 0}});
     for (int i : {2, 3, 4, 5, 7}) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
 }
 
 TEST(Thermal, ZeroStepLeavesTemperaturesUnchanged) {
+    void (*const modeles[3])(Etat&) = {thermal_ext_panels, thermal_faces, thermal_cylinder};
     for (int cas = 0; cas < 3; ++cas) {
         Etat e = deux_noeuds_faces(cas == 2 ? 2 : 0);
         e.session.pas_sim = 0;
         for (int i = 0; i < 39; ++i) e.pwr.node_t[i] = 250.0 + i;
         const auto avant = e.pwr.node_t;
-        if (cas == 0) thermal_ext_panels(e);
-        if (cas == 1) thermal_faces(e);
-        if (cas == 2) thermal_cylinder(e);
+        modeles[cas](e);
         EXPECT_EQ(e.pwr.node_t, avant) << cas;
     }
 }
