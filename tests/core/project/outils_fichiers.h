@@ -1,9 +1,12 @@
-// Small file helpers shared by the project-file tests.
+// Small helpers shared by the project-file tests.
 #pragma once
+#include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -33,27 +36,30 @@ inline std::string lit_octets(const std::string& chemin) {
 }
 
 inline void ecrit_octets(const std::string& chemin, const std::string& octets) {
-    std::ofstream f(chemin, std::ios::binary | std::ios::trunc);
-    f.write(octets.data(), static_cast<std::streamsize>(octets.size()));
+    std::ofstream(chemin, std::ios::binary | std::ios::trunc) << octets;
 }
 
 // Lines without their CR LF ends.
 inline std::vector<std::string> lignes(const std::string& texte) {
     std::vector<std::string> r;
-    std::size_t a = 0;
-    while (a < texte.size()) {
-        auto b = texte.find("\r\n", a);
-        if (b == std::string::npos) b = texte.size();
+    for (std::size_t a = 0, b = 0; a < texte.size(); a = b + 2) {
+        b = std::min(texte.find("\r\n", a), texte.size());
         r.push_back(texte.substr(a, b - a));
-        a = b + 2;
     }
     return r;
 }
 
-inline std::string joint(const std::vector<std::string>& l) {
-    std::string t;
-    for (const auto& s : l) t += s + "\r\n";
-    return t;
+// A named field against its hand-worked value, compared exactly: float and
+// 16-bit fields widen to double without loss, so a float field is written
+// against a float literal.
+struct Valeur {
+    template <class L, class A>
+    Valeur(const char* n, L l, A a) : nom(n), lu(static_cast<double>(l)), attendu(static_cast<double>(a)) {}
+    const char* nom;
+    double lu, attendu;
+};
+inline void attend(std::initializer_list<Valeur> valeurs) {
+    for (const auto& v : valeurs) EXPECT_EQ(v.lu, v.attendu) << v.nom;
 }
 
 }  // namespace kestrel::essai

@@ -5,8 +5,6 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
-#include <utility>
-#include <vector>
 
 #include "core/etat.h"
 #include "core/project/liste_champs.h"
@@ -18,14 +16,23 @@ using namespace kestrel::essai;
 
 namespace {
 
-double f64_a(const std::string& o, std::size_t off) {
+// The little-endian integer of n bytes at off, and the double of 8 bytes.
+uint64_t octets_a(const std::string& o, std::size_t off, std::size_t n) {
     uint64_t b = 0;
-    for (int i = 0; i < 8; ++i) b |= static_cast<uint64_t>(static_cast<unsigned char>(o[off + i])) << (8 * i);
-    return std::bit_cast<double>(b);
+    for (std::size_t i = 0; i < n; ++i) b |= uint64_t{static_cast<unsigned char>(o[off + i])} << (8 * i);
+    return b;
 }
+double f64_a(const std::string& o, std::size_t off) { return std::bit_cast<double>(octets_a(o, off, 8)); }
 
-int16_t i16_a(const std::string& o, std::size_t off) {
-    return static_cast<int16_t>(static_cast<unsigned char>(o[off]) | (static_cast<unsigned char>(o[off + 1]) << 8));
+// Doubles, or 16-bit integers when entier, at their byte offsets.
+struct AuxOctets {
+    std::size_t off;
+    double v;
+    bool entier = false;
+};
+void attend_octets(const std::string& o, std::initializer_list<AuxOctets> cas) {
+    for (const auto& c : cas)
+        EXPECT_EQ(c.entier ? static_cast<int16_t>(octets_a(o, c.off, 2)) : f64_a(o, c.off), c.v) << c.off;
 }
 
 }  // namespace
@@ -46,19 +53,14 @@ TEST(FichierAttitude, ChampsAuxOctetsAttendus) {
     const std::string o = lit_octets(d / "a.att");
     ASSERT_EQ(o.size(), 820u);
     // Masse 50.0 = 0x4049000000000000 at 96, little-endian: bytes 102, 103 are 49 40.
-    EXPECT_EQ(static_cast<unsigned char>(o[102]), 0x49);
-    EXPECT_EQ(static_cast<unsigned char>(o[103]), 0x40);
-    const std::vector<std::pair<std::size_t, double>> reels{
-        {24, 7.0},   {32, 2.347},      {72, 0.45},  {120, 0.3},        // I_corps, dim, cm
-        {176, 2.0},  {184, 3.0},       {192, 1.0},                     // theta, phi, psi
-        {348, 0.5},  {452, 99.0},      {516, 2.347},                   // OM_init z, Mt, I(1,1)
-        {556, 0.225}, {564, -4.0},     {588, -5.0}, {612, -6.0},       // faces
-        {628, 0.9},  {684, 0.3},       {756, 0.45}, {812, 0.125}};     // sn, st, cr, cd
-    for (const auto& [off, v] : reels) EXPECT_EQ(f64_a(o, off), v) << off;
+    EXPECT_EQ(o.substr(102, 2), "\x49\x40");
+    attend_octets(o, {{24, 7.0},    {32, 2.347},   {72, 0.45},   {120, 0.3},                // I_corps, dim, cm
+                      {176, 2.0},   {184, 3.0},    {192, 1.0},                              // theta, phi, psi
+                      {274, -1, true}, {276, 1, true}, {306, 2, true},                      // dip_cmd, jet_cmd
+                      {348, 0.5},   {452, 99.0},   {516, 2.347},                            // OM_init z, Mt, I(1,1)
+                      {556, 0.225}, {564, -4.0},   {588, -5.0},  {612, -6.0},               // faces
+                      {628, 0.9},   {684, 0.3},    {756, 0.45},  {812, 0.125}});            // sn, st, cr, cd
     EXPECT_DOUBLE_EQ(f64_a(o, 200), std::sqrt(3.0));
-    EXPECT_EQ(i16_a(o, 274), -1);
-    EXPECT_EQ(i16_a(o, 276), 1);
-    EXPECT_EQ(i16_a(o, 306), 2);
 }
 
 TEST(FichierAttitude, AllerRetourSansRecalculDesDerives) {
@@ -84,13 +86,12 @@ TEST(FichierAttitude, AllerRetourSansRecalculDesDerives) {
     ASSERT_EQ(ce.size(), cb.size());
     for (std::size_t i = 0; i < ce.size(); ++i) EXPECT_EQ(ce[i].valeur, cb[i].valeur) << ce[i].nom;
 
-    // Loaded: only the face table is rebuilt from cm and dim.
+    // Loaded: only the face table is rebuilt from cm and dim; vs_r is not in
+    // the file and stays as it was.
     Etat l;
-    l.att.vs_r = {3, 3, 3};  // not in the file: left as it was
+    l.att.vs_r = {3, 3, 3};
     ASSERT_FALSE(charge_attitude(l, d / "r.att"));
-    EXPECT_EQ(l.att.Mt, 1234.0);
-    EXPECT_EQ(l.att.I(2, 2), -8.0);
-    EXPECT_EQ(l.att.vs_r[0], 3.0);
+    attend({{"Mt", l.att.Mt, 1234.0}, {"I 2 2", l.att.I(2, 2), -8.0}, {"vs_r", l.att.vs_r[0], 3.0}});
     EXPECT_DOUBLE_EQ(l.att.face_c[0][0], 0.4);  // 1/2 - 0.1
     EXPECT_DOUBLE_EQ(l.att.face_c[5][2], -1.5);
     EXPECT_DOUBLE_EQ(l.att.face_c[4][0], -0.1);
@@ -102,11 +103,8 @@ TEST(FichierAttitude, FichiersCourtsLongsEtAbsents) {
     ecrit_octets(d / "vide.att", "");
     Etat e;
     ASSERT_FALSE(charge_attitude(e, d / "vide.att"));
-    EXPECT_EQ(e.att.Masse, 0.0);
-    EXPECT_EQ(e.att.Mt, 0.0);
-    EXPECT_EQ(e.att.I(1, 1), 0.0);
-    EXPECT_EQ(e.att.dip_res[2], 0.0);
-    EXPECT_EQ(e.att.face_c[0][0], 0.0);
+    attend({{"Masse", e.att.Masse, 0}, {"Mt", e.att.Mt, 0}, {"I 1 1", e.att.I(1, 1), 0},
+            {"dip_res", e.att.dip_res[2], 0}, {"face_c", e.att.face_c[0][0], 0}});
 
     // 104 bytes: inertia, dimensions and mass read; the rest zero.
     ASSERT_FALSE(sauve_attitude(Etat{}, d / "plein.att"));
@@ -114,9 +112,7 @@ TEST(FichierAttitude, FichiersCourtsLongsEtAbsents) {
     ecrit_octets(d / "court.att", plein.substr(0, 104));
     Etat c;
     ASSERT_FALSE(charge_attitude(c, d / "court.att"));
-    EXPECT_EQ(c.att.Masse, 50.0);
-    EXPECT_EQ(c.att.I_corps(2, 2), 2.541);
-    EXPECT_EQ(c.att.cd[0], 0.0);
+    attend({{"Masse", c.att.Masse, 50.0}, {"I_corps 2 2", c.att.I_corps(2, 2), 2.541}, {"cd", c.att.cd[0], 0}});
 
     // Saving over a longer file replaces the first 820 bytes only.
     ecrit_octets(d / "long.att", std::string(2000, '\xab'));
@@ -146,12 +142,7 @@ TEST(FichierOrbite, EnregistrementDe114OctetsDansUneCaseDe128) {
     const std::string o = lit_octets(d / "o.orb");
     ASSERT_EQ(o.size(), 128u);
     EXPECT_EQ(o.substr(0, 24), "LEO 800 KM              ");  // blank-padded, no terminator
-    EXPECT_EQ(f64_a(o, 24), 98.6);
-    EXPECT_EQ(f64_a(o, 64), 15.0);
-    EXPECT_EQ(i16_a(o, 72), 1999);
-    EXPECT_EQ(f64_a(o, 74), 123.456);
-    EXPECT_EQ(f64_a(o, 82), 7174.0);
-    EXPECT_EQ(f64_a(o, 106), 3.5);
+    attend_octets(o, {{24, 98.6}, {64, 15.0}, {72, 1999, true}, {74, 123.456}, {82, 7174.0}, {106, 3.5}});
     EXPECT_EQ(o.substr(114), std::string(14, '\0'));
 
     // A reader takes 114 bytes and ignores anything after them.
@@ -163,8 +154,7 @@ TEST(FichierOrbite, EnregistrementDe114OctetsDansUneCaseDe128) {
     EXPECT_EQ(l.orbite.reserve, e.orbite.reserve);
 
     Etat a;
-    const Erreur r = charge_orbite(a, d / "absent.orb");
-    EXPECT_NE(texte_erreur(r).find("absent.orb"), std::string::npos);
+    EXPECT_NE(texte_erreur(charge_orbite(a, d / "absent.orb")).find("absent.orb"), std::string::npos);
     EXPECT_EQ(a.orbite.orb_an, 2001);
     EXPECT_EQ(sauve_orbite(a, d / "pas_de_dossier/x.orb").code, CodeErreur::fichier_orbite);
 }
