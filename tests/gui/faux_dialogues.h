@@ -11,6 +11,7 @@ struct FauxDialogues : kestrel::gui::Dialogues {
     struct Message {
         QString texte;
         kestrel::Icone icone;
+        bool operator==(const Message&) const = default;
     };
     std::deque<QString> chemins;                    // answers of ouvrir / enregistrer ("" = cancel)
     std::deque<kestrel::gui::Reponse> reponses;     // answers of question
@@ -19,29 +20,23 @@ struct FauxDialogues : kestrel::gui::Dialogues {
     QList<Message> messages;
     QList<QString> fatales;                         // reports of fin_fatale (the program would end)
 
-    QString suivant() {
-        if (chemins.empty()) return {};
-        QString c = chemins.front();
-        chemins.pop_front();
-        return c;
+    // The next queued answer, or the given one when the queue is empty.
+    template <class T>
+    static T suivant(std::deque<T>& file, T sinon) {
+        if (file.empty()) return sinon;
+        T r = file.front();
+        file.pop_front();
+        return r;
     }
     QString ouvrir(QWidget*, const kestrel::gui::DemandeFichier& d) override {
         demandes << d;
-        return suivant();
+        return suivant(chemins, QString());
     }
-    QString enregistrer(QWidget*, const kestrel::gui::DemandeFichier& d) override {
-        demandes << d;
-        return suivant();
-    }
+    QString enregistrer(QWidget* w, const kestrel::gui::DemandeFichier& d) override { return ouvrir(w, d); }
     kestrel::gui::Reponse question(QWidget*, const QString& titre, const QString& texte) override {
         questions << titre + QLatin1Char('|') + texte;
-        if (reponses.empty()) return kestrel::gui::Reponse::annuler;
-        const auto r = reponses.front();
-        reponses.pop_front();
-        return r;
+        return suivant(reponses, kestrel::gui::Reponse::annuler);
     }
-    void message(QWidget*, const QString& texte, kestrel::Icone icone) override {
-        messages << Message{texte, icone};
-    }
+    void message(QWidget*, const QString& texte, kestrel::Icone icone) override { messages << Message{texte, icone}; }
     void fin_fatale(QWidget*, const QString& rapport) override { fatales << rapport; }
 };
