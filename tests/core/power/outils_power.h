@@ -32,16 +32,14 @@ inline void pose_soleil(PowerRecord& p, double el, double az) { pose_direction(p
 inline void pose_nadir(PowerRecord& p, double el, double az) { pose_direction(p.nad_z, p.nad_sxy, p.nad_az, el, az); }
 
 // Sun at the zenith of +z, Earth under -z, 7000 km from the centre, no albedo
-// or infrared: only the top surface sees anything.
+// or infrared and no eclipse (a new record's zeros): only the top surface sees
+// anything.
 inline Etat etat_soleil_zenith(double flux = 1000.0) {
     Etat e;
     e.orb.sat_pos = {7000.0, 0.0, 0.0};
     pose_soleil(e.pwr, PI / 2, 0.0);
     pose_nadir(e.pwr, -PI / 2, 0.0);
     e.pwr.flux_sun = static_cast<float>(flux);
-    e.pwr.flux_alb = 0;
-    e.pwr.flux_ir = 0;
-    e.pwr.eclipse = FAUX;
     return e;
 }
 

@@ -9,43 +9,31 @@ namespace {
 
 constexpr double T_REF_K = 28.0 + 273.15;  // the cells' reference temperature
 
-// Default cell: one in series, Voc 1 V, Vmp 0.86 V at 28 °C.
-Etat bus_cellule(int16_t regule, double v) {
-    Etat e;
-    e.pwr.gst_regulated = regule;
-    e.pwr.gst_vregul = static_cast<float>(v);
-    e.pwr.bat_v = v;
-    return e;
-}
-
 TEST(CellEfficiency, BusAtOrAboveTheStringVocGivesNothing) {
-    struct Cas {
-        int16_t regule;
-        double v, dt;
-    };
-    const Cas cas[] = {
-        {1, 1.0001, 0},  // just above Voc
-        {0, 1.3, 0},     // the new-project bus: 10 accumulators at 1.3 V on a 1 V cell
-        {0, 0.0, 0},     // empty battery: I = np * Isc, but P = I * 0
-        {1, 0.8, 101},   // Voc falls 1 mV/K: 0.8 V at 100 °C above, below the bus at 101
-    };
-    for (const Cas& c : cas) {
-        Etat e = bus_cellule(c.regule, c.v);
-        EXPECT_EQ(cell_efficiency(e, T_REF_K + c.dt), 0.0f) << c.v << " " << c.dt;
+    // Default cell: one in series, Voc 1 V. Rows: regulated flag, bus voltage
+    // (regulated or battery), kelvin above the reference. Just above Voc; the
+    // new-project bus, 10 accumulators at 1.3 V on a 1 V cell; an empty battery,
+    // I = np * Isc but P = I * 0; Voc falls 1 mV/K: 0.8 V at 100 K above, below
+    // the bus at 101.
+    const double cas[][3] = {{1, 1.0001, 0}, {0, 1.3, 0}, {0, 0.0, 0}, {1, 0.8, 101}};
+    for (const auto& c : cas) {
+        Etat e;
+        e.pwr.gst_regulated = static_cast<int16_t>(c[0]);
+        e.pwr.gst_vregul = static_cast<float>(c[1]);
+        e.pwr.bat_v = c[1];
+        EXPECT_EQ(cell_efficiency(e, T_REF_K + c[2]), 0.0f) << c[1] << " " << c[2];
     }
 }
 
-TEST(CellEfficiency, PassesThroughTheMaximumPowerPoint) {
+TEST(CellEfficiency, MaximumPowerPointTemperatureAndEndOfLife) {
     Etat e;
-    e = bus_cellule(1, e.pwr.cel_vmp);  // 0.86 V at 28 °C
+    e.pwr.gst_regulated = 1;
+    e.pwr.gst_vregul = e.pwr.cel_vmp;  // 0.86 V at 28 °C
     // a = ln(0.53/0.03), Vt = 0.14/a, I0 = Isc/(exp(Voc/Vt)-1): I(Vmp) = Imp
     // to 6e-10, so eff = 0.5 * 0.86 * 10000 / 1368 / 16 = 0.196455
     EXPECT_NEAR(cell_efficiency(e, T_REF_K), 0.19645468, 1e-7);
-}
-
-TEST(CellEfficiency, TemperatureAndEndOfLife) {
-    Etat e = bus_cellule(1, 0.8);
-    // 50 °C above the reference: Voc = 1 - 0.1 = 0.9 V, still above the bus.
+    // On a 0.8 V bus, 50 °C above the reference: Voc = 1 - 0.1 = 0.9 V, still above the bus.
+    e.pwr.gst_vregul = 0.8f;
     EXPECT_GT(cell_efficiency(e, T_REF_K + 50), 0.0f);
     // End of life with Voc x 0.85 = 0.85 V, Vmp x 0.85: at 0.8 V the current
     // falls; "BOL" is unaffected by the ratios.
@@ -71,8 +59,7 @@ TEST(Generators, AreasAndSums) {
     // External: panel front to +z, two panels.
     p.pan_angle = PI / 2;
     generator_ext_panels(e);
-    EXPECT_NEAR(p.pan_power[0], 1000 * eff * aire, 1e-6);
-    EXPECT_NEAR(p.gen_power, 2 * 1000 * eff * aire, 1e-6);
+    essai::verifie({{"panel", p.pan_power[0], 1000 * eff * aire, 1e-6}, {"sum", p.gen_power, 2 * 1000 * eff * aire, 1e-6}});
     // Faces with the Sun on the face of azimuth 0 at 30 deg from its normal;
     // the face at 90 deg is 60 deg off, on the parabola (0.459722).
     essai::pose_faces(p, 0);

@@ -41,17 +41,18 @@ TEST(PanelTarget, ClosedFormInEachLightingCase) {
     for (const Cas& c : cas) {
         SCOPED_TRACE(c.nom);
         Etat e = geometrie_panneau();
-        e.pwr.eclipse = c.eclipse;
-        e.pwr.flux_alb = c.albedo;
-        e.pwr.pan_target = 0.42;
-        e.pwr.pan_angle = 0.3;
-        pose_soleil(e.pwr, 30 * DEG_RAD, c.sun_az);
+        PowerRecord& p = e.pwr;
+        p.eclipse = c.eclipse;
+        p.flux_alb = c.albedo;
+        p.pan_target = 0.42;
+        p.pan_angle = 0.3;
+        pose_soleil(p, 30 * DEG_RAD, c.sun_az);
         panel_target_update(e);
-        EXPECT_NEAR(e.pwr.pan_target, c.attendu, 1e-12);
+        EXPECT_NEAR(p.pan_target, c.attendu, 1e-12);
         // With no target the panel stays where it is.
         panel_drive_update(e, 60);
         if (c.attendu == PAS_DE_CIBLE) {
-            EXPECT_EQ(e.pwr.pan_angle, 0.3);
+            EXPECT_EQ(p.pan_angle, 0.3);
         }
     }
 }
@@ -73,22 +74,15 @@ TEST(PanelTarget, RefinedFallsBackOrFindsAZeroOfTheSlope) {
     EXPECT_LT(a, 30 * DEG_RAD);
 }
 
-// A moving panel at angle 0 with no delay running.
-Etat servo(double delai, double vitesse, double cible) {
+// Servo (a new record: moving panels at angle 0, dead band 0.5 deg): 0 -> 10
+// deg, delay 150 s, steps of 60 s, 0.1 deg/s.
+TEST(PanelDrive, DelayWholeStepsFixedPanelsTheDeadBandAndTheShortWayRound) {
     Etat e;
     PowerRecord& p = e.pwr;
-    p.pan_fixed = FAUX;
-    p.pan_delay = static_cast<int32_t>(delai);
-    p.pan_speed = static_cast<float>(vitesse);
+    p.pan_delay = 150;
+    p.pan_speed = 0.1f;
     p.pan_wait = -1;
-    p.pan_target = cible;
-    return e;
-}
-
-// Servo: 0 -> 10 deg, delay 150 s, steps of 60 s, 0.1 deg/s, dead band 0.5 deg.
-TEST(PanelDrive, DelayLongerThanAStepThenWholeSteps) {
-    Etat e = servo(150, 0.1, 10 * DEG_RAD);
-    PowerRecord& p = e.pwr;
+    p.pan_target = 10 * DEG_RAD;
     // wait 150 -> 90 -> 30 -> -30: n = 0, 0, 0 (clamped), then 30 s at 0.1 deg/s;
     // then n = 60 - (-30) = 90 -> 60 s: +6 deg; then the last degree.
     const double attendu[6] = {0, 0, 0, 3, 9, 10};
@@ -100,16 +94,17 @@ TEST(PanelDrive, DelayLongerThanAStepThenWholeSteps) {
     }
     EXPECT_EQ(p.pan_moving, FAUX);
     EXPECT_EQ(p.pan_angle, p.pan_target);
-}
-
-TEST(PanelDrive, FixedPanelsTheDeadBandAndTheShortWayRound) {
-    Etat e = servo(0, 1.0, 0.2);
-    PowerRecord& p = e.pwr;
+    // No delay from here on, 1 deg/s. Fixed panels do not move; then a target
+    // inside the 0.5 deg band starts nothing.
+    p.pan_delay = 0;
+    p.pan_speed = 1.0f;
+    p.pan_angle = 0;
+    p.pan_target = 0.2;
     p.pan_fixed = VRAI;
     panel_drive_update(e, 60);
     EXPECT_EQ(p.pan_angle, 0.0);
     p.pan_fixed = FAUX;
-    p.pan_target = 0.3 * DEG_RAD;  // inside the 0.5 deg band: no move
+    p.pan_target = 0.3 * DEG_RAD;
     panel_drive_update(e, 60);
     EXPECT_EQ(p.pan_angle, 0.0);
     p.pan_angle = 3.0;
