@@ -29,7 +29,7 @@ void pentes(const std::function<double(double)>& v, double x, double s) {
     EXPECT_NEAR((v(x + h) - v(x)) / h, s, 1e-4) << x;
 }
 
-TEST(BatteryCurves, PointsFollowTemperatureAndCurrentAndTheDischargeValuesAndJoins) {
+TEST(BatteryCurves, PointsDischargeValuesJoinsAndTheCapacityFactors) {
     PowerRecord p;
     // charge point 1 at 35 °C and 10C: x = (15 + 0.1*10 - 5*1)/100, v = 1.4 - 0.001*10 + 0.01
     const PointCourbe q = point_courbe(p.ch_pt, 1, 10.0, 35.0);
@@ -42,9 +42,17 @@ TEST(BatteryCurves, PointsFollowTemperatureAndCurrentAndTheDischargeValuesAndJoi
     for (const Valeur& c : cas) EXPECT_NEAR(bat_v_discharge(p, 1, T25, c.soc), c.v, c.tol) << c.soc;
     // Slope -0.0125 on both sides of both joins (v against the depth x = 1 - soc).
     for (double x : {0.15, 0.95}) pentes([&](double d) { return bat_v_discharge(p, 1, T25, 1 - d); }, x, -0.0125);
+    // Capacity factors: cmax 1.2, c10 0.6, cmin 30 %, t999 50 °C, tmin -50 °C.
+    // Current: cmax up to 0.1C; 1.2796 at 0.2C, limited to cmax; 1 - 0.4 log10(0.5) at 0.5C.
+    const Valeur courant[] = {{0.1, p.bat_cmax, 0}, {0.0, p.bat_cmax, 0}, {0.2, 1.2, 1e-7},
+                              {0.5, 1.1204119983, 1e-7}, {1.0, 1.0, 1e-12}, {10.0, 0.6, 1e-7}};
+    for (const Valeur& c : courant) EXPECT_NEAR(bat_cap_current(p, c.soc), c.v, c.tol) << c.soc;
+    // k = ln(700)/100: 0.7 (1 - exp(-75 k)) + 0.3 = 0.9948563 at 25 °C
+    for (const Valeur& c : {Valeur{-50, 0.3}, Valeur{50, 0.999}, Valeur{25, 0.9948563133}})
+        EXPECT_NEAR(bat_cap_temp(p, c.soc), c.v, 1e-7) << c.soc;
 }
 
-TEST(BatteryCurves, ChargeValuesJoinsAndTheFlatTopOfTheCubic) {
+TEST(BatteryCurves, ChargeValuesJoinsTheFlatTopOfTheCubicAndTheTrappedFailures) {
     Etat e;
     // Hermite cubic from (0.65, 1.41, slope 0.02) to (1.2, 1.59, slope 0):
     // 1.5368310 at soc 1, 1.59 at x3 = 1.2, and past x3 it comes down: 1.5704147.
@@ -68,38 +76,18 @@ TEST(BatteryCurves, ChargeValuesJoinsAndTheFlatTopOfTheCubic) {
     for (double xj : {0.15, 0.65}) pentes(courbe, xj, 0.02);
     EXPECT_NEAR((courbe(1.2 + 1e-6) - courbe(1.2 - 1e-6)) / 2e-6, 0.0, 1e-4);  // flat at x3
     EXPECT_FALSE(e.pwr.alerte_charge);
-}
-
-TEST(BatteryCurves, ChargeFailureIsTrappedAndReported) {
-    Etat e, f;
+    // Failures are trapped and reported.
+    Etat f, g;
     // Points 1 and 2 at the same capacity: the straight part has no slope.
     for (int j : {1, 2}) {
-        e.pwr.ch_pt[j][0] = 50;
-        e.pwr.ch_pt[j][2] = 0;
+        f.pwr.ch_pt[j][0] = 50;
+        f.pwr.ch_pt[j][2] = 0;
     }
-    EXPECT_EQ(bat_v_charge(e, 1, T25, 0.3), 0.0);
-    EXPECT_TRUE(e.pwr.alerte_charge);
-    // A zero current (log of 0) is the same failure.
-    EXPECT_EQ(bat_v_charge(f, 0, T25, 0.3), 0.0);
+    EXPECT_EQ(bat_v_charge(f, 1, T25, 0.3), 0.0);
     EXPECT_TRUE(f.pwr.alerte_charge);
-}
-
-TEST(BatteryCapacity, CurrentAndTemperatureFactors) {
-    PowerRecord p;  // cmax 1.2, c10 0.6, cmin 30 %, t999 50 °C, tmin -50 °C
-    // Current: cmax up to 0.1C; 1.2796 at 0.2C, limited to cmax; 1 - 0.4 log10(0.5) at 0.5C.
-    const Valeur courant[] = {{0.1, p.bat_cmax, 0}, {0.0, p.bat_cmax, 0}, {0.2, 1.2, 1e-7},
-                              {0.5, 1.1204119983, 1e-7}, {1.0, 1.0, 1e-12}, {10.0, 0.6, 1e-7}};
-    for (const Valeur& c : courant) EXPECT_NEAR(bat_cap_current(p, c.soc), c.v, c.tol) << c.soc;
-    // k = ln(700)/100: 0.7 (1 - exp(-75 k)) + 0.3 = 0.9948563 at 25 °C
-    for (const Valeur& c : {Valeur{-50, 0.3}, Valeur{50, 0.999}, Valeur{25, 0.9948563133}})
-        EXPECT_NEAR(bat_cap_temp(p, c.soc), c.v, 1e-7) << c.soc;
-}
-
-// Curves with no current dependence: v does not move with i, so the power
-// i * v crosses the target at i = target / v exactly.
-void sans_effet_courant(PowerRecord& p) {
-    for (int j = 0; j < 4; ++j)
-        for (int k : {2, 5}) p.ch_pt[j][k] = p.de_pt[j][k] = 0;
+    // A zero current (log of 0) is the same failure.
+    EXPECT_EQ(bat_v_charge(g, 0, T25, 0.3), 0.0);
+    EXPECT_TRUE(g.pwr.alerte_charge);
 }
 
 TEST(BatterySolvers, PowerAndVoltageSolversFindTheKnownCrossing) {
@@ -111,7 +99,10 @@ TEST(BatterySolvers, PowerAndVoltageSolversFindTheKnownCrossing) {
     // A start point that already meets the tolerance comes back unchanged.
     EXPECT_EQ(bat_i_from_v_charge(e, 0.4, 1.416, 10.0, T25), 10.0);
     EXPECT_EQ(bat_i_from_p_discharge(e, 0.0, 1.0, 2.0, T25), 0.0);  // empty battery
-    sans_effet_courant(e.pwr);
+    // Curves with no current dependence: v does not move with i, so the power
+    // i * v crosses the target at i = target / v exactly.
+    for (int j = 0; j < 4; ++j)
+        for (int k : {2, 5}) e.pwr.ch_pt[j][k] = e.pwr.de_pt[j][k] = 0;
     // discharge at soc 0.45: v = 1.205 V, target 2.41 W/Ah -> 2C
     EXPECT_NEAR(bat_i_from_p_discharge(e, 0.45, 2.41, 0.5, T25) * 1.205, 2.41, 1e-5);
     // charge at soc 0.4: v = 1.405 V, target 4.215 -> 3C

@@ -22,38 +22,30 @@ Etat geometrie_panneau() {
 }
 
 TEST(PanelTarget, ClosedFormInEachLightingCase) {
-    struct Cas {
-        const char* nom;
-        int16_t eclipse;
-        double albedo, sun_az, attendu;
-    };
-    const Cas cas[] = {
-        // atan(sin 30 / (cos 30 * cos 0)) = 30 deg
-        {"sunlit without albedo faces the Sun", FAUX, 0, PI, 30 * DEG_RAD},
-        // k = 0: atan(nad_z / nad_sxy) = -60 deg, the panel looks at nadir.
-        {"eclipse with albedo follows the Earth", VRAI, 300, PI, -60 * DEG_RAD},
-        {"eclipse without albedo has no target", VRAI, 0, PI, PAS_DE_CIBLE},
-        // Sun on the azimuth 0 side: atan(0.5 / (0.866 * cos(-pi))) = -30 deg,
-        // whose front faces away; the flip subtracts sign(-30 deg) * pi: 150 deg.
-        {"flips when the rear would see more", FAUX, 0, 0, -30 * DEG_RAD + PI},
-        {"negative albedo keeps the previous target", FAUX, -1, PI, 0.42},
-    };
-    for (const Cas& c : cas) {
-        SCOPED_TRACE(c.nom);
+    // Rows: eclipse, albedo, Sun azimuth (elevation 30 deg), expected target.
+    // Sunlit without albedo it faces the Sun: atan(sin 30 / (cos 30 * cos 0)) =
+    // 30 deg. In eclipse with albedo it follows the Earth, k = 0: atan(nad_z /
+    // nad_sxy) = -60 deg, the panel looks at nadir; without albedo there is no
+    // target. With the Sun on the azimuth 0 side the closed form gives
+    // atan(0.5 / (0.866 * cos(-pi))) = -30 deg, whose front faces away: it flips
+    // when the rear would see more, subtracting sign(-30 deg) * pi: 150 deg.
+    // A negative albedo keeps the previous target.
+    const double cas[][4] = {{FAUX, 0, PI, 30 * DEG_RAD}, {VRAI, 300, PI, -60 * DEG_RAD}, {VRAI, 0, PI, PAS_DE_CIBLE},
+                             {FAUX, 0, 0, -30 * DEG_RAD + PI}, {FAUX, -1, PI, 0.42}};
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c[3]);
         Etat e = geometrie_panneau();
         PowerRecord& p = e.pwr;
-        p.eclipse = c.eclipse;
-        p.flux_alb = c.albedo;
+        p.eclipse = static_cast<int16_t>(c[0]);
+        p.flux_alb = c[1];
         p.pan_target = 0.42;
         p.pan_angle = 0.3;
-        pose_soleil(p, 30 * DEG_RAD, c.sun_az);
+        pose_soleil(p, 30 * DEG_RAD, c[2]);
         panel_target_update(e);
-        EXPECT_NEAR(p.pan_target, c.attendu, 1e-12);
+        EXPECT_NEAR(p.pan_target, c[3], 1e-12);
         // With no target the panel stays where it is.
         panel_drive_update(e, 60);
-        if (c.attendu == PAS_DE_CIBLE) {
-            EXPECT_EQ(p.pan_angle, 0.3);
-        }
+        EXPECT_TRUE(c[3] != PAS_DE_CIBLE || p.pan_angle == 0.3) << p.pan_angle;
     }
 }
 
