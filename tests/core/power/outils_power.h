@@ -48,10 +48,7 @@ inline void pose_faces(PowerRecord& p, int opt_faces) {
     p.opt_panel_ext = FAUX;
     p.opt_faces = static_cast<int16_t>(opt_faces);
     p.nb_faces = opt_faces == 0 ? 4 : (opt_faces == 1 ? 6 : 0);
-    for (int i = 0; i < p.nb_faces; ++i) {
-        p.face_azim[i] = i * (361 / p.nb_faces) * DEG_RAD;
-        p.face_elev[i] = 0;
-    }
+    for (int i = 0; i < p.nb_faces; ++i) p.face_azim[i] = i * (361 / p.nb_faces) * DEG_RAD;  // elevations stay 0
 }
 
 // Cells whose strings stand above a 13 V battery bus (7 x 2.6 V), so that the

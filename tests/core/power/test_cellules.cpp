@@ -52,8 +52,7 @@ TEST(Generators, AreasAndSums) {
     PowerRecord& p = e.pwr;
     p.gst_regulated = 1;
     p.gst_vregul = p.cel_vmp;
-    p.cel_np = 3;
-    p.cel_ns = 1;
+    p.cel_np = 3;  // strings of one cell
     p.node_t.fill(T_REF_K);
     const double eff = 0.19645468, aire = 0.0048;  // 3 cells of 16 cm²
     // External: panel front to +z, two panels.

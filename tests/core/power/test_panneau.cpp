@@ -21,7 +21,7 @@ Etat geometrie_panneau() {
     return e;
 }
 
-TEST(PanelTarget, ClosedFormInEachLightingCase) {
+TEST(PanelTarget, ClosedFormInEachLightingCaseAndTheRefinedZeroOfTheSlope) {
     // Rows: eclipse, albedo, Sun azimuth (elevation 30 deg), expected target.
     // Sunlit without albedo it faces the Sun: atan(sin 30 / (cos 30 * cos 0)) =
     // 30 deg. In eclipse with albedo it follows the Earth, k = 0: atan(nad_z /
@@ -47,17 +47,15 @@ TEST(PanelTarget, ClosedFormInEachLightingCase) {
         panel_drive_update(e, 60);
         EXPECT_TRUE(c[3] != PAS_DE_CIBLE || p.pan_angle == 0.3) << p.pan_angle;
     }
-}
-
-TEST(PanelTarget, RefinedFallsBackOrFindsAZeroOfTheSlope) {
+    // The refined target falls back on the closed form without albedo...
     Etat e = geometrie_panneau();
-    EXPECT_NEAR(panel_target_refined(e), 30 * DEG_RAD, 1e-12);  // no albedo: closed form
+    EXPECT_NEAR(panel_target_refined(e), 30 * DEG_RAD, 1e-12);
     // Earth at -40 deg: near the optimum it stands 59 deg off the panel, on
     // the parabola of the cell law, where the closed form is no longer exact.
     pose_nadir(e.pwr, -40 * DEG_RAD, PI);
     e.pwr.flux_alb = 300;
     const double a = panel_target_refined(e);
-    EXPECT_NE(a, e.pwr.pan_target);
+    EXPECT_NE(a, e.pwr.pan_target);  // the closed form, stored on the way
     EXPECT_FALSE(e.faute);
     // At the optimum the cell flux is flat: f(a +- h) no higher than f(a).
     for (double h : {1e-3, -1e-3}) EXPECT_LE(cell_flux(e, a + h, PI), cell_flux(e, a, PI) + 1e-6);
