@@ -65,8 +65,7 @@ class TestMenu : public QObject {
     Q_OBJECT
 private slots:
     void premier_ecran_passe_la_main();
-    void periode_pas_et_temps_reel();
-    void debut_apres_fin_revient();
+    void periode_pas_temps_reel_et_dates();
     void entrees_et_touches();
     void ouverture_recharge_les_fenetres();
     void echecs_laissent_la_session();
@@ -105,7 +104,7 @@ void TestMenu::premier_ecran_passe_la_main() {
     QVERIFY(image.save(dossier + "/menu.png"));
 }
 
-void TestMenu::periode_pas_et_temps_reel() {
+void TestMenu::periode_pas_temps_reel_et_dates() {
     Banc b;
     auto* cmb = b.ctrl<QComboBox>("cmb_pas");
     auto* debut = b.ctrl<QDateTimeEdit>("txt_date_debut");
@@ -151,15 +150,11 @@ void TestMenu::periode_pas_et_temps_reel() {
     QVERIFY(cmb->isEnabled() && debut->isEnabled());
     emit cmb->activated(cmb->currentIndex());
     QCOMPARE(b.s().pas_sim, 300);
-}
 
-void TestMenu::debut_apres_fin_revient() {
-    Banc b;
-    auto* debut = b.ctrl<QDateTimeEdit>("txt_date_debut");
-    auto* fin = b.ctrl<QDateTimeEdit>("txt_date_fin");
+    // A start a day after the end becomes the end as shown (14:48:00), the
+    // end stays; a date is a change of configuration.
     const double j_fin = b.s().j_fin;
-
-    // A start a day after the end becomes the end as shown (14:48:00), the end stays.
+    b.s().config_modifiee = 0;
     debut->setDateTime(utc(2001, 3, 22, 14, 48));
     QCOMPARE(debut->dateTime(), utc(2001, 3, 21, 14, 48));
     QCOMPARE(fin->dateTime(), utc(2001, 3, 21, 14, 48));
@@ -206,25 +201,18 @@ void TestMenu::entrees_et_touches() {
     QCOMPARE(cles("Toolbar_att"), (QStringList{"open", "save", "masses", "proprietes", "actuators", "gestatt",
                                                "simulation", "expatt"}));
     // The tooltips the keys must carry word for word.
-    struct Bulle {
-        const char* barre;
-        const char* cle;
-        const char* texte;
-    };
-    for (const Bulle& t : {Bulle{"Toolbar_att", "open", "Ouvrir un projet pour le sous-système attitude"},
-                           {"Toolbar_att", "save", "Enregistrer le projet du sous-système attitude"},
-                           {"Toolbar_att", "masses", "Masse/Géométrie"}, {"Toolbar_att", "simulation", "Simulation"},
-                           {"Toolbar_att", "proprietes", "Propriétés satellite"},
-                           {"Toolbar_att", "actuators", "Définir les actionneurs"},
-                           {"Toolbar_att", "gestatt", "Gestion du sous-système"},
-                           {"Toolbar_att", "expatt", "Exploitation des données"},
-                           {"Toolbar_orb", "orbite", "Définir l'orbite"}, {"Toolbar_orb", "envir", "Définir l'environnement"},
-                           {"Toolbar_power", "open", "Ouvrir un fichier énergie"}})
-        QCOMPARE(b.cle(t.barre, t.cle)->toolTip(), QString::fromUtf8(t.texte));
+    for (const auto& [barre, cle, texte] :
+         {std::tuple{"Toolbar_att", "open", "Ouvrir un projet pour le sous-système attitude"},
+          {"Toolbar_att", "save", "Enregistrer le projet du sous-système attitude"},
+          {"Toolbar_att", "masses", "Masse/Géométrie"}, {"Toolbar_att", "simulation", "Simulation"},
+          {"Toolbar_att", "proprietes", "Propriétés satellite"}, {"Toolbar_att", "actuators", "Définir les actionneurs"},
+          {"Toolbar_att", "gestatt", "Gestion du sous-système"}, {"Toolbar_att", "expatt", "Exploitation des données"},
+          {"Toolbar_orb", "orbite", "Définir l'orbite"}, {"Toolbar_orb", "envir", "Définir l'environnement"},
+          {"Toolbar_power", "open", "Ouvrir un fichier énergie"}})
+        QCOMPARE(b.cle(barre, cle)->toolTip(), QString::fromUtf8(texte));
 
     // "open" means the energy project in one toolbar, the attitude one in the
-    // other; cancelled dialogs change nothing.
-    b.dlg.chemins = {QString(), QString(), QString()};
+    // other; cancelled dialogs (nothing queued) change nothing.
     b.fen->Toolbar_ButtonClick("Toolbar_power", "open");
     b.cle("Toolbar_att", "open")->trigger();
     b.cle("Toolbar_att", "save")->trigger();  // no path yet: save as
@@ -406,9 +394,8 @@ void TestMenu::quitter_oui_non_annuler() {
     Banc b;
     b.fen->show();
     const QString attendu = "Configuration|Voulez-vous enregistrer le projet ?";
-    b.dlg.reponses = {Reponse::annuler};
+    b.dlg.reponses = {Reponse::annuler, Reponse::annuler};
     b.ctrl<QAction>("mn_fichier_quit")->trigger();
-    b.dlg.reponses = {Reponse::annuler};
     b.cle("Toolbar_power", "quit")->trigger();
     QCOMPARE(b.dlg.questions, (QList<QString>{attendu, attendu}));
 

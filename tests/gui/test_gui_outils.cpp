@@ -75,30 +75,22 @@ void TestOutils::saisie_verifiee_en_quittant() {
     f.fenetre.show();
     QVERIFY(QTest::qWaitForWindowActive(&f.fenetre));
 
-    // Refused: the box, the old text back, the focus kept, the value untouched;
-    // 10 hits the exclusive upper limit of [0, 10[.
+    // Refused, with its box: the old text back, the focus kept, the value
+    // untouched; 10 hits the exclusive upper limit of [0, 10[. Accepted: stored,
+    // and now the text a later refusal puts back; 0 is the inclusive lower limit.
     const Message invalide{"Type de donnée non valide", Icone::critique};
-    f.saisit("abc");
-    QCOMPARE(dlg.messages, QList<Message>{invalide});
-    QCOMPARE(f.champ->text(), "5");
-    QVERIFY(f.champ->hasFocus());
-    QCOMPARE(masse, 5.0);
-    f.saisit("10");
-    QCOMPARE(dlg.messages, (QList<Message>{invalide, {"Valeur hors limite !! Saisissez une valeur : \n0 <= Valeur < 10",
-                                                      Icone::avertissement}}));
-    QCOMPARE(f.champ->text(), "5");
-    QCOMPARE(masse, 5.0);
-
-    // Accepted: stored, and now the text a later refusal puts back; 0 is the
-    // inclusive lower limit.
-    f.saisit("7.5");
-    QCOMPARE(dlg.messages.size(), 2);
-    QCOMPARE(masse, 7.5);
-    f.saisit("0");
-    QCOMPARE(masse, 0.0);
-    f.saisit("-1");
-    QCOMPARE(f.champ->text(), "0");
-    QCOMPARE(masse, 0.0);
+    const Message hors_limite{"Valeur hors limite !! Saisissez une valeur : \n0 <= Valeur < 10", Icone::avertissement};
+    for (const auto& [texte, refus, affiche, valeur] :
+         {std::tuple{"abc", &invalide, "5", 5.0}, {"10", &hors_limite, "5", 5.0}, {"7.5", nullptr, "7.5", 7.5},
+          {"0", nullptr, "0", 0.0}, {"-1", &hors_limite, "0", 0.0}}) {
+        const auto avant = dlg.messages.size();
+        f.saisit(texte);
+        QCOMPARE(dlg.messages.size(), avant + (refus ? 1 : 0));
+        if (refus) QCOMPARE(dlg.messages.last(), *refus);
+        QCOMPARE(f.champ->hasFocus(), refus != nullptr);
+        QCOMPARE(f.champ->text(), QString::fromUtf8(affiche));
+        QCOMPARE(masse, valeur);
+    }
 
     // An integer box refuses a decimal text.
     f.autre->setFocus();

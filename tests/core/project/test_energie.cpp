@@ -54,10 +54,11 @@ TEST(FichierEnergie, NouveauProjetEgalALaCopieVerifiee) {
 
     const auto l = lignes_defaut();
     ASSERT_EQ(l.size(), 279u);
-    EXPECT_EQ(l[1], "! Syst\xe8me \xe9nergie");  // Windows-1252 on disk, not UTF-8
-    EXPECT_EQ(l[152], " 1E-03         ");        // empty label, blanks to column 16
-    EXPECT_EQ(l[182], "3.8000E+26     Flux solaire");
-    EXPECT_EQ(l[277], " 18707.6166766667 ");     // 15 digits
+    // Windows-1252 on disk, not UTF-8; an empty label, blanks to column 16;
+    // 15 digits for a date.
+    for (const auto& [i, t] : {std::pair{1, "! Syst\xe8me \xe9nergie"}, {152, " 1E-03         "},
+                               {182, "3.8000E+26     Flux solaire"}, {277, " 18707.6166766667 "}})
+        EXPECT_EQ(l[i], t) << i;
 
     const Erreur r = sauve_energie(Etat{}, d / "pas_de_dossier/p.pwr");
     EXPECT_EQ(texte_erreur(r), "Erreur d'\xc3\xa9" "criture.\n Impossible d'enregistrer la configuration !!");
@@ -82,9 +83,8 @@ TEST(FichierEnergie, AllerRetour) {
     b.session.pas_sim = 45;
     ASSERT_FALSE(sauve_energie(b, d / "b.pwr"));
     const auto l = lignes(lit_octets(d / "b.pwr"));
-    EXPECT_EQ(l[7], "-1.234567E-05  Isc");
-    EXPECT_EQ(l[207], " 17 ");
-    EXPECT_EQ(l[251], " .333333 ");
+    for (const auto& [i, t] : {std::pair{7, "-1.234567E-05  Isc"}, {207, " 17 "}, {251, " .333333 "}})
+        EXPECT_EQ(l[i], t) << i;
 
     Etat lu;
     lu.pwr.cel_imp = 7.0f;

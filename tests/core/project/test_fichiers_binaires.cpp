@@ -160,16 +160,13 @@ TEST(FichierOrbite, EnregistrementDe114OctetsDansUneCaseDe128) {
 }
 
 TEST(Chemins, ExtraitNomFichierEtFichierExiste) {
-    EXPECT_EQ(extrait_nom_fichier("C:\\projets.v2\\essai.1\\orbite.leo.orb"), "orbite.leo");
-    EXPECT_EQ(extrait_nom_fichier("/home/u/projets.v2/sat.pwr"), "sat");
-    EXPECT_EQ(extrait_nom_fichier("orbite"), "orbite");
-    EXPECT_EQ(extrait_nom_fichier("   "), "");
-    EXPECT_EQ(extrait_nom_fichier("  a/b\\c.d  "), "c");
+    for (const auto& [chemin, nom] : {std::pair{"C:\\projets.v2\\essai.1\\orbite.leo.orb", "orbite.leo"},
+                                      {"/home/u/projets.v2/sat.pwr", "sat"}, {"orbite", "orbite"}, {"   ", ""},
+                                      {"  a/b\\c.d  ", "c"}})
+        EXPECT_EQ(extrait_nom_fichier(chemin), nom) << chemin;
 
     DossierTemporaire d("existe");
     ecrit_octets(d / "f.txt", "x");
     EXPECT_TRUE(fichier_existe(d / "f.txt"));
-    EXPECT_FALSE(fichier_existe(d.chemin.string()));
-    EXPECT_FALSE(fichier_existe(d / "absent"));
-    EXPECT_FALSE(fichier_existe(""));
+    for (const auto& f : {d.chemin.string(), d / "absent", std::string()}) EXPECT_FALSE(fichier_existe(f)) << f;
 }
