@@ -58,7 +58,8 @@ TEST(Generators, AreasAndSums) {
     // External: panel front to +z, two panels.
     p.pan_angle = PI / 2;
     generator_ext_panels(e);
-    essai::verifie({{"panel", p.pan_power[0], 1000 * eff * aire, 1e-6}, {"sum", p.gen_power, 2 * 1000 * eff * aire, 1e-6}});
+    essai::verifie({{"panel", p.pan_power[0], 1000 * eff * aire, 1e-6},
+                    {"sum", p.gen_power, 2 * 1000 * eff * aire, 1e-6}});
     // Faces with the Sun on the face of azimuth 0 at 30 deg from its normal;
     // the face at 90 deg is 60 deg off, on the parabola (0.459722).
     essai::pose_faces(p, 0);

@@ -78,7 +78,8 @@ TEST(PowerManagement, GeneratorEqualToDemandIsASurplus) {
     power_management(e);
     // case B; the first start point, returned as it is
     EXPECT_LT(p.bat_p, 0.0);
-    verifie({{"tc", p.t_charge, 60, 0}, {"i", p.bat_i, 1e-5, 1e-20}, {"soc", p.bat_soc, 0.5 + 60 * 1e-5 / 37800.0, 1e-15}});
+    verifie({{"tc", p.t_charge, 60, 0}, {"i", p.bat_i, 1e-5, 1e-20},
+             {"soc", p.bat_soc, 0.5 + 60 * 1e-5 / 37800.0, 1e-15}});
 }
 
 TEST(PowerManagement, CaseCDischargesOnTheEffectiveCapacity) {
@@ -91,7 +92,8 @@ TEST(PowerManagement, CaseCDischargesOnTheEffectiveCapacity) {
     // 40 W through 90 %: the battery gives 44.44 W
     verifie({{"soc", p.bat_soc, 0.5 - 120.0 / (1.2 * 0.9948563133 * 36000), 1e-9}, {"p", p.bat_p, 40.0 / 0.9, 1e-3},
              {"v", p.bat_v, bat_v_discharge(p, p.bat_i / 10, 25, p.bat_soc), 1e-12}, {"pl", p.p_payload, 40.0, 1e-3},
-             {"de", p.p_loss_de, 4.0 / 0.9, 1e-3}, {"heat", p.p_heat, 4.0 / 0.9 + 6.0, 1e-3}, {"td", p.t_discharge, 120, 0}});
+             {"de", p.p_loss_de, 4.0 / 0.9, 1e-3}, {"heat", p.p_heat, 4.0 / 0.9 + 6.0, 1e-3},
+             {"td", p.t_discharge, 120, 0}});
 }
 
 TEST(PowerManagement, ShortageWithAnEmptyBatteryAndTheByteWrapOfTwoHundredFiftySix) {

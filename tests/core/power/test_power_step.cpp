@@ -39,7 +39,8 @@ TEST(PowerStateInit, ResetsOnlyWhatItNames) {
     essai::verifie({{"soc", p.bat_soc, 0.8, 1e-15}, {"i", p.bat_i, 10 * 1e-6, 1e-20}, {"wait", p.pan_wait, -1, 0},
                     {"moving", p.pan_moving, FAUX, 0}, {"angle", p.pan_angle, 30 * DEG_RAD, 1e-15},
                     {"heat", p.p_heat, 7.0, 0}, {"target", p.pan_target, 0.5, 0}, {"T0", p.node_t[0], 298.15, 1e-12},
-                    {"T8", p.node_t[8], 298.15, 1e-12}, {"T1", p.node_t[1], 123.0, 0}, {"T20", p.node_t[20], 456.0, 0}});
+                    {"T8", p.node_t[8], 298.15, 1e-12}, {"T1", p.node_t[1], 123.0, 0},
+                    {"T20", p.node_t[20], 456.0, 0}});
     essai::pose_faces(p, 2);
     p.fac_t_init = {10, 20, 30};
     p.int_t_init = 40;
