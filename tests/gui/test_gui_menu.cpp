@@ -24,7 +24,9 @@ namespace {
 // then + 80.55001 - 1 = 18707.55001. One period later: + 1/15 day (15 rev/day).
 constexpr double epoque = 18707.55001;
 
-QDateTime utc(int an, int mois, int jour, int h, int m) { return QDateTime(QDate(an, mois, jour), QTime(h, m), Qt::UTC); }
+QDateTime utc(int an, int mois, int jour, int h, int m) {
+    return QDateTime(QDate(an, mois, jour), QTime(h, m), Qt::UTC);
+}
 
 struct Banc {
     Etat etat;
@@ -178,7 +180,8 @@ void TestMenu::entrees_et_touches() {
     for (const char* nom : {"mn_fichier_ouvrir", "mn_fichier_enreg", "mn_fichier_enregsous", "mn_attfich_ouvrir",
                             "mn_attfich_enreg", "mn_attfich_enregsous", "mn_fichier_quit"})
         QVERIFY2(b.ctrl<QAction>(nom)->isEnabled(), nom);
-    for (const char* nom : {"mn_fic_pow", "mn_fic_att", "mn_sim_car"}) QVERIFY2(!b.ctrl<QAction>(nom)->isEnabled(), nom);
+    for (const char* nom : {"mn_fic_pow", "mn_fic_att", "mn_sim_car"})
+        QVERIFY2(!b.ctrl<QAction>(nom)->isEnabled(), nom);
     // Texts word for word; the commands under the two label entries keep their two leading blanks.
     for (const auto& [nom, texte] :
          {std::pair{"mn_fichier_enregsous", "  Enregistrer sous..."}, {"mn_fichier_ouvrir", "  Ouvrir un projet"},
@@ -273,13 +276,12 @@ void TestMenu::ouverture_recharge_les_fenetres() {
     QVERIFY(b.dlg.messages.isEmpty());
     QCOMPARE(b.s().pas_sim, 45);
     QCOMPARE(b.ctrl<QComboBox>("cmb_pas")->currentText(), "5 min");
-    QCOMPARE(b.fen->windowTitle(), "Energie (projet45)");
-    QCOMPARE(b.texte("fra_energie"), "Energie (projet45)");
+    QCOMPARE((QStringList{b.fen->windowTitle(), b.texte("fra_energie"), titre_vu}),
+             QStringList(3, "Energie (projet45)"));
     QCOMPARE(QString::fromStdString(b.s().chemin_energie), pwr);
     QCOMPARE(b.s().config_modifiee, int16_t{1});
     QCOMPARE(QDir::currentPath(), QCoreApplication::applicationDirPath());
     QCOMPARE(std::pair(conf, attconf), std::pair(1, 0));
-    QCOMPARE(titre_vu, "Energie (projet45)");
     QCOMPARE(marque_vue, int16_t{0});
     b.declenche("mn_attfich_ouvrir", {att});
     QCOMPARE(std::pair(conf, attconf), std::pair(1, 1));
