@@ -3,6 +3,7 @@
 #pragma once
 #include <cmath>
 #include <initializer_list>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -10,16 +11,9 @@
 
 namespace kestrel::essai {
 
-// One named check of a table: obtained against expected within tol (0: equal).
-struct Attendu {
-    template <class O, class A>
-    Attendu(const char* n, O o, A a, double t)
-        : nom(n), obtenu(static_cast<double>(o)), attendu(static_cast<double>(a)), tol(t) {}
-    const char* nom;
-    double obtenu, attendu, tol;
-};
-inline void verifie(std::initializer_list<Attendu> table) {
-    for (const Attendu& a : table) EXPECT_NEAR(a.obtenu, a.attendu, a.tol) << a.nom;
+// One named check per row: obtained against expected within tol (0: equal).
+inline void verifie(std::initializer_list<std::tuple<const char*, double, double, double>> table) {
+    for (const auto& [nom, obtenu, attendu, tol] : table) EXPECT_NEAR(obtenu, attendu, tol) << nom;
 }
 
 // Unit direction of elevation el and azimuth az (rad) into the (z, sxy, az) form.

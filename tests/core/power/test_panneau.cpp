@@ -13,14 +13,6 @@ namespace {
 using essai::pose_nadir;
 using essai::pose_soleil;
 
-// Sun at 30 deg elevation behind the panel's azimuth pi, Earth at -60 deg.
-Etat geometrie_panneau() {
-    Etat e = essai::etat_soleil_zenith(1360.0);
-    pose_soleil(e.pwr, 30 * DEG_RAD, PI);
-    pose_nadir(e.pwr, -60 * DEG_RAD, PI);
-    return e;
-}
-
 TEST(PanelTarget, ClosedFormInEachLightingCaseAndTheRefinedZeroOfTheSlope) {
     // Rows: eclipse, albedo, Sun azimuth (elevation 30 deg), expected target.
     // Sunlit without albedo it faces the Sun: atan(sin 30 / (cos 30 * cos 0)) =
@@ -34,8 +26,9 @@ TEST(PanelTarget, ClosedFormInEachLightingCaseAndTheRefinedZeroOfTheSlope) {
                              {FAUX, 0, 0, -30 * DEG_RAD + PI}, {FAUX, -1, PI, 0.42}};
     for (const auto& c : cas) {
         SCOPED_TRACE(c[3]);
-        Etat e = geometrie_panneau();
+        Etat e = essai::etat_soleil_zenith(1360.0);
         PowerRecord& p = e.pwr;
+        pose_nadir(p, -60 * DEG_RAD, PI);  // the Earth at -60 deg
         p.eclipse = static_cast<int16_t>(c[0]);
         p.flux_alb = c[1];
         p.pan_target = 0.42;
@@ -48,7 +41,8 @@ TEST(PanelTarget, ClosedFormInEachLightingCaseAndTheRefinedZeroOfTheSlope) {
         EXPECT_TRUE(c[3] != PAS_DE_CIBLE || p.pan_angle == 0.3) << p.pan_angle;
     }
     // The refined target falls back on the closed form without albedo...
-    Etat e = geometrie_panneau();
+    Etat e = essai::etat_soleil_zenith(1360.0);
+    pose_soleil(e.pwr, 30 * DEG_RAD, PI);
     EXPECT_NEAR(panel_target_refined(e), 30 * DEG_RAD, 1e-12);
     // Earth at -40 deg: near the optimum it stands 59 deg off the panel, on
     // the parabola of the cell law, where the closed form is no longer exact.
