@@ -6,7 +6,6 @@
 #include <functional>
 
 #include "core/power/batterie.h"
-#include "core/etat.h"
 #include "outils_power.h"
 
 namespace kestrel {

@@ -3,7 +3,6 @@
 
 #include "core/power/batterie.h"
 #include "core/power/gestion.h"
-#include "core/etat.h"
 #include "outils_power.h"
 
 namespace kestrel {

@@ -1,8 +1,6 @@
 // Target of the external panels and their servo.
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "core/power/flux.h"
 #include "core/power/panneau.h"
 #include "outils_power.h"
