@@ -1,5 +1,6 @@
 // Vectors, matrices in their memory order, the frame turns (with the yaw used
 // twice on the way into the body frame), Euler helpers and the linear solver.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,39 +8,32 @@
 
 #include "core/etat.h"
 #include "core/orbit/matrices.h"
-#include "core/shell/types.h"
 
 using namespace kestrel;
+using testing::DoubleNear, testing::Each, testing::Pointwise;
 
-namespace {
 constexpr double PRECIS = 1e-12;
 
-void attend_vec(const Vec3& v, double x, double y, double z, double tol = PRECIS) {
-    EXPECT_NEAR(v[0], x, tol);
-    EXPECT_NEAR(v[1], y, tol);
-    EXPECT_NEAR(v[2], z, tol);
+static void attend_vec(const Vec3& v, const Vec3& w, double tol = PRECIS) {
+    for (int k = 0; k < 3; ++k) EXPECT_NEAR(v[k], w[k], tol) << "component " << k;
 }
-
-// Epoch 1950-01-01: the 1950 node correction is 0, so with i = om = 0 the
-// plane frame is the inertial frame. Satellite on +x: u = 0, and form A is
-// (along track, normal, radial) = (y, z, x).
-Etat etat_simple() {
-    Etat e;
-    e.orbite.orb_an = 1950;
-    e.orbite.orb_jour = 1.0;
-    e.orb.sat_pos = Vec3{7000.0, 0.0, 0.0};
-    return e;
+// f(a..., r) with its output r returned.
+template <class F, class... A>
+static Vec3 res(F f, const A&... a) { Vec3 r; f(a..., r); return r; }
+// A x = b with n = size of b, x starting at x0; the return code checked against `code`.
+static std::vector<double> resout(const std::vector<double>& A, const std::vector<double>& b, int code, double x0 = 0.0) {
+    std::vector<double> x(b.size(), x0);
+    EXPECT_EQ(resout_lineaire(static_cast<int>(b.size()), A.data(), b.data(), x.data()), code);
+    return x;
 }
-}  // namespace
 
 TEST(Matrices, ProduitDansLOrdreMemoire) {
     // m[i + 3 j]: A = [[1,4,7],[2,5,8],[3,6,9]]; A^2 by hand:
     // row 0: 1+8+21, 4+20+42, 7+32+63 = 30, 66, 102
     // row 1: 2+10+24, 8+25+48, 14+40+72 = 36, 81, 126
     // row 2: 3+12+27, 12+30+54, 21+48+81 = 42, 96, 150
-    Mat3 A;
+    Mat3 A, C;
     for (int k = 0; k < 9; ++k) A.m[k] = k + 1;
-    Mat3 C;
     C.m.fill(99.0);  // cleared before summing
     mat_produit(A, A, C);
     const std::array<double, 9> attendu{30, 36, 42, 66, 81, 96, 102, 126, 150};
@@ -47,114 +41,70 @@ TEST(Matrices, ProduitDansLOrdreMemoire) {
     // M v with the same A, v = (1, 0, -1): (1 - 7, 2 - 8, 3 - 9)
     Vec3 r;
     mat_vecteur(A, Vec3{1, 0, -1}, r);
-    attend_vec(r, -6, -6, -6, 0.0);
+    attend_vec(r, {-6, -6, -6}, 0.0);
     mat_produit(A, A, A);  // result over an input
     EXPECT_EQ(A.m, attendu);
-
-    Vec3 c;
-    vec_vectoriel(Vec3{1, 2, 3}, Vec3{4, 5, 6}, c);
-    attend_vec(c, -3, 6, -3, 0.0);  // (2*6-3*5, 3*4-1*6, 1*5-2*4)
+    attend_vec(res(vec_vectoriel, Vec3{1, 2, 3}, Vec3{4, 5, 6}), {-3, 6, -3}, 0.0);  // (2*6-3*5, 3*4-1*6, 1*5-2*4)
     EXPECT_EQ(vec_norme(Vec3{2, 3, 6}), 7.0);
 }
 
-TEST(Reperes, CorpsParLacetPuisRetour) {
-    Vec3 r;
-    // yaw 90: X = y, Y = -x, Z = z
-    vers_corps(90.0, 0.0, 0.0, Vec3{1, 2, 3}, r);
-    attend_vec(r, 2, -1, 3);
-    // pitch 90: X = -z, Z = x
-    vers_corps(0.0, 90.0, 0.0, Vec3{1, 2, 3}, r);
-    attend_vec(r, -3, 2, 1);
-    // roll 90: Y = z, Z = -y
-    vers_corps(0.0, 0.0, 90.0, Vec3{1, 2, 3}, r);
-    attend_vec(r, 1, 3, -2);
+TEST(Reperes, CorpsPlanEtLocal) {
+    const Vec3 v{1, 2, 3};
+    attend_vec(res(vers_corps, 90.0, 0.0, 0.0, v), {2, -1, 3});  // yaw 90: X = y, Y = -x, Z = z
+    attend_vec(res(vers_corps, 0.0, 90.0, 0.0, v), {-3, 2, 1});  // pitch 90: X = -z, Z = x
+    attend_vec(res(vers_corps, 0.0, 0.0, 90.0, v), {1, 3, -2});  // roll 90: Y = z, Z = -y
+    const Vec3 w{0.3, -1.2, 2.5};
+    attend_vec(res(depuis_corps, 30.0, -20.0, 75.0, res(vers_corps, 30.0, -20.0, 75.0, w)), w);
 
-    Vec3 corps, retour;
-    vers_corps(30.0, -20.0, 75.0, Vec3{0.3, -1.2, 2.5}, corps);
-    depuis_corps(30.0, -20.0, 75.0, corps, retour);
-    attend_vec(retour, 0.3, -1.2, 2.5);
-}
-
-TEST(Reperes, PlanAvecCorrection1950) {
     // Epoch 2000-01-01: correction = 50 * 365.25 * 12.81161661111 / 365250
     // = 0.05 * 12.81161661111 = 0.6405808305555 deg. A node given as 90 + that
     // is 90 in 1950: with i = 0, (1, 0, 0) -> (cos 90, -sin 90, 0) = (0, -1, 0).
-    Orbite o;
-    o.orb_an = 2000;
-    o.orb_jour = 1.0;
-    Vec3 r;
-    vers_plan(o, 90.6405808305555, 0.0, Vec3{1, 0, 0}, r);
-    attend_vec(r, 0.0, -1.0, 0.0, 1e-12);
+    const Orbite o{.orb_an = 2000, .orb_jour = 1.0};
+    attend_vec(res(vers_plan, o, 90.6405808305555, 0.0, Vec3{1, 0, 0}), {0.0, -1.0, 0.0});
     // A node of 0 goes negative and gets +360: the plane turns by -0.64 deg
-    vers_plan(o, 0.0, 0.0, Vec3{1, 0, 0}, r);
-    attend_vec(r, std::cos(0.6405808305555 * DEG_RAD), std::sin(0.6405808305555 * DEG_RAD), 0.0, 1e-12);
+    const double c = 0.6405808305555 * DEG_RAD;
+    attend_vec(res(vers_plan, o, 0.0, 0.0, Vec3{1, 0, 0}), {std::cos(c), std::sin(c), 0.0});
+    attend_vec(res(depuis_plan, o, 40.0, 63.0, res(vers_plan, o, 40.0, 63.0, Vec3{1, -2, 5})), {1, -2, 5});
 
-    Vec3 retour;
-    vers_plan(o, 40.0, 63.0, Vec3{1, -2, 5}, r);
-    depuis_plan(o, 40.0, 63.0, r, retour);
-    attend_vec(retour, 1, -2, 5);
-}
-
-TEST(Reperes, LocalOrbitalFormeA) {
     // satellite on +y of the plane frame: u = pi/2, along track is -x
-    Vec3 r;
-    plan_vers_local(Vec3{0, 7000, 0}, Vec3{1, 2, 3}, r);
-    attend_vec(r, -1, 3, 2);
-    Vec3 retour;
-    local_vers_plan(Vec3{0, 7000, 0}, r, retour);
-    attend_vec(retour, 1, 2, 3);
+    const Vec3 p{0, 7000, 0};
+    attend_vec(res(plan_vers_local, p, v), {-1, 3, 2});
+    attend_vec(res(local_vers_plan, p, res(plan_vers_local, p, v)), v);
 }
 
-TEST(Reperes, InertielVersCorpsIgnoreLeRoulis) {
-    Etat e = etat_simple();
-    Vec3 r;
-    inertiel_vers_corps(e, Vec3{1, 2, 3}, r);
-    attend_vec(r, 2, 3, 1);  // (y, z, x) with no pointing
-
+TEST(Reperes, InertielEtCorpsLacetCompteDeuxFois) {
+    // Epoch 1950-01-01: the 1950 node correction is 0, so with i = om = 0 the
+    // plane frame is the inertial frame. Satellite on +x: u = 0, and form A is
+    // (along track, normal, radial) = (y, z, x).
+    Etat e;
+    e.orbite = {.orb_an = 1950, .orb_jour = 1.0};
+    e.orb.sat_pos = Vec3{7000.0, 0.0, 0.0};
+    attend_vec(res(inertiel_vers_corps, e, Vec3{1, 2, 3}), {2, 3, 1});  // (y, z, x) with no pointing
+    attend_vec(res(corps_vers_inertiel, e, Vec3{2, 3, 1}), {1, 2, 3});
     e.pointage.phi = 90.0;  // roll: no effect in this direction
-    inertiel_vers_corps(e, Vec3{1, 2, 3}, r);
-    attend_vec(r, 2, 3, 1);
-
+    attend_vec(res(inertiel_vers_corps, e, Vec3{1, 2, 3}), {2, 3, 1});
+    // but undone on the way back: body (2, 3, 1) -> local (2, -1, 3) -> inertial (3, 2, -1)
+    attend_vec(res(corps_vers_inertiel, e, Vec3{2, 3, 1}), {3, 2, -1});
     // yaw 90 is also applied as roll 90: local (2, 3, 1) -> yaw -> (3, -2, 1)
     // -> roll -> (3, 1, 2)
     e.pointage.phi = 0.0;
     e.pointage.psi = 90.0;
-    inertiel_vers_corps(e, Vec3{1, 2, 3}, r);
-    attend_vec(r, 3, 1, 2);
+    attend_vec(res(inertiel_vers_corps, e, Vec3{1, 2, 3}), {3, 1, 2});
 }
 
-TEST(Reperes, CorpsVersInertielPrendLesTroisAngles) {
-    Etat e = etat_simple();
-    Vec3 r;
-    corps_vers_inertiel(e, Vec3{2, 3, 1}, r);
-    attend_vec(r, 1, 2, 3);
-    // roll 90 undone: body (2, 3, 1) -> local (2, -1, 3) -> inertial (3, 2, -1)
-    e.pointage.phi = 90.0;
-    corps_vers_inertiel(e, Vec3{2, 3, 1}, r);
-    attend_vec(r, 3, 2, -1);
-}
-
-TEST(Reperes, OrbitalSansCorrection) {
+TEST(Reperes, OrbitalSansCorrectionEtArgumentDeLatitude) {
     // i = 90, om = 0: rows (1,0,0), (0,0,1), (0,-1,0), even with a 2001 epoch
     Etat e;
     e.orbite.orb_inclinaison = 90.0;
-    Vec3 v{1, 2, 3};
-    vers_orbital_i(e.orbite, v);
-    attend_vec(v, 1, 3, -2);
-
+    auto sur_place = [](auto f, const auto& o) { Vec3 v{1, 2, 3}; f(o, v); return v; };
+    attend_vec(sur_place(vers_orbital_i, e.orbite), {1, 3, -2});
     // form B with u = 90 deg (perigee argument 90, anomaly 0, e = 0):
     // rows (0,0,1), (0,1,0), (-1,0,0)
     e.orbite.orb_argument = 90.0;
     e.orb.anomalie_moy = 0.0;
-    v = Vec3{1, 2, 3};
-    vers_orbital_u(e, v);
-    attend_vec(v, 3, 2, -1);
-}
-
-TEST(Reperes, ArgumentDeLatitudeConvertitDeuxFois) {
+    attend_vec(sur_place(vers_orbital_u, e), {3, 2, -1});
     // anomalie_moy = 90 taken once more as degrees: m = pi/2, E = m (e = 0),
     // nu = 2 atan(tan(pi/4)) = pi/2; perigee argument 10 deg
-    Etat e;
     e.orbite.orb_argument = 10.0;
     e.orb.anomalie_moy = 90.0;
     EXPECT_NEAR(argument_latitude(e), 10.0 * DEG_RAD + DEMI_PI, PRECIS);
@@ -168,10 +118,7 @@ TEST(Euler, TauxAvecAnglesGardesSurCopie) {
     Vec6 y{0.5, 0.25, -0.7, 0, 0, 0};
     const Vec6 w{1, 2, 3, 0, 0, 0};
     euler_taux(w, y);
-    EXPECT_NEAR(y[3], 1.9170857283687548, PRECIS);
-    EXPECT_NEAR(y[4], 0.3168885079681365, PRECIS);
-    EXPECT_NEAR(y[5], 3.706835295328804, PRECIS);
-
+    attend_vec({y[3], y[4], y[5]}, {1.9170857283687548, 0.3168885079681365, 3.706835295328804});
     // an angle that the guard moves stays as it is in the state
     Vec6 z{PI + 5e-13, 0.0, 0.0, 0, 0, 0};
     euler_taux(w, z);
@@ -186,8 +133,8 @@ TEST(Euler, VersInertielSurOrbiteDeReference) {
     e.orb.anomalie_moy = 0.0;
     Vec3 b, c;
     euler_vers_inertiel(e, Vec3{0, 0, 0}, b, c);
-    attend_vec(b, DEMI_PI, 0.0, DEMI_PI);
-    attend_vec(c, DEMI_PI + PI, PI, DEMI_PI + PI);
+    attend_vec(b, {DEMI_PI, 0.0, DEMI_PI});
+    attend_vec(c, {DEMI_PI + PI, PI, DEMI_PI + PI});
 
     // a = (0.1, 0.2, 0.3): R = A T2 moves the columns of A: R(i,0) = A(i,2),
     // R(i,1) = A(i,0), R(i,2) = A(i,1), with A(0,1) = c1 s2, A(1,1) = s0 s1 s2
@@ -199,66 +146,38 @@ TEST(Euler, VersInertielSurOrbiteDeReference) {
     // x = 0.0584 - 0.0954 < 0 and y > 0: + pi
     EXPECT_NEAR(b[0], std::atan((s0 * s1 * s2 + c0 * c2) / (c0 * s1 * s2 - s0 * c2)) + PI, PRECIS);
     EXPECT_NEAR(b[2], std::atan(c1 * c2 / -s1) + PI, PRECIS);  // x < 0, y >= 0: + pi
-    EXPECT_NEAR(c[1], PI - b[1], 0.0);
+    EXPECT_EQ(c[1], PI - b[1]);
 }
 
-TEST(ResoutLineaire, SystemesConnus) {
+TEST(ResoutLineaire, SystemesConnusGrandeTailleEtSinguliers) {
     // [[2,1,1],[1,3,2],[1,0,0]] x = (4,5,6): x0 = 6, x1 + x2 = -8,
     // 3 x1 + 2 x2 = -1 -> x = (6, 15, -23)
-    const double A[9] = {2, 1, 1, 1, 3, 0, 1, 2, 0};  // first index fastest
-    const double b[3] = {4, 5, 6};
-    double x[3] = {0, 0, 0};
-    ASSERT_EQ(resout_lineaire(3, A, b, x), 0);
-    EXPECT_NEAR(x[0], 6.0, PRECIS);
-    EXPECT_NEAR(x[1], 15.0, PRECIS);
-    EXPECT_NEAR(x[2], -23.0, PRECIS);
-    // inputs untouched
-    EXPECT_EQ(A[0], 2.0);
+    const std::vector<double> A{2, 1, 1, 1, 3, 0, 1, 2, 0}, b{4, 5, 6};  // first index fastest
+    EXPECT_THAT(resout(A, b, 0), Pointwise(DoubleNear(PRECIS), {6.0, 15.0, -23.0}));
+    EXPECT_EQ(A[0], 2.0);  // inputs untouched
     EXPECT_EQ(b[2], 6.0);
 
     // zeros on the diagonal force the row exchanges:
     // x1 = 1, x0 = 2, 2 x3 = 3, 3 x2 = 4
-    double P[16] = {};
-    P[0 + 4 * 1] = 1;
-    P[1 + 4 * 0] = 1;
+    std::vector<double> P(16, 0.0);
+    P[0 + 4 * 1] = P[1 + 4 * 0] = 1;
     P[2 + 4 * 3] = 2;
     P[3 + 4 * 2] = 3;
-    const double bp[4] = {1, 2, 3, 4};
-    double xp[4];
-    ASSERT_EQ(resout_lineaire(4, P, bp, xp), 0);
-    EXPECT_NEAR(xp[0], 2.0, PRECIS);
-    EXPECT_NEAR(xp[1], 1.0, PRECIS);
-    EXPECT_NEAR(xp[2], 4.0 / 3.0, PRECIS);
-    EXPECT_NEAR(xp[3], 1.5, PRECIS);
-}
+    EXPECT_THAT(resout(P, {1, 2, 3, 4}, 0), Pointwise(DoubleNear(PRECIS), {2.0, 1.0, 4.0 / 3.0, 1.5}));
 
-TEST(ResoutLineaire, GrandeTaille) {
     // n = 20 (past the stack buffers): 4 on the diagonal, 1 next to it;
     // with x = all ones, b is the row sums: 5 at both ends, 6 inside.
     const int n = 20;
-    std::vector<double> A(n * n, 0.0), b(n), x(n);
+    std::vector<double> G(n * n, 0.0), bg(n, 6.0);
     for (int i = 0; i < n; ++i) {
-        A[i + n * i] = 4;
-        if (i > 0) A[i + n * (i - 1)] = 1;
-        if (i < n - 1) A[i + n * (i + 1)] = 1;
-        b[i] = (i == 0 || i == n - 1) ? 5 : 6;
+        G[i + n * i] = 4;
+        if (i > 0) G[i + n * (i - 1)] = 1;
+        if (i < n - 1) G[i + n * (i + 1)] = 1;
     }
-    ASSERT_EQ(resout_lineaire(n, A.data(), b.data(), x.data()), 0);
-    for (int i = 0; i < n; ++i) EXPECT_NEAR(x[i], 1.0, PRECIS);
-}
+    bg.front() = bg.back() = 5;
+    EXPECT_THAT(resout(G, bg, 0), Each(DoubleNear(1.0, PRECIS)));
 
-TEST(ResoutLineaire, SingulierLaisseXIntact) {
-    // second row twice the first
-    const double A[4] = {1, 2, 2, 4};
-    const double b[2] = {1, 2};
-    double x[2] = {42.0, -42.0};
-    EXPECT_EQ(resout_lineaire(2, A, b, x), -1);
-    EXPECT_EQ(x[0], 42.0);
-    EXPECT_EQ(x[1], -42.0);
-
-    const double Z[9] = {};  // all zero
-    const double bz[3] = {1, 1, 1};
-    double xz[3] = {7, 7, 7};
-    EXPECT_EQ(resout_lineaire(3, Z, bz, xz), -1);
-    EXPECT_EQ(xz[1], 7.0);
+    // singular: second row twice the first, then all zero; x left as it was
+    EXPECT_THAT(resout({1, 2, 2, 4}, {1, 2}, -1, 42.0), Each(42.0));
+    EXPECT_THAT(resout(std::vector<double>(9, 0.0), {1, 1, 1}, -1, 7.0), Each(7.0));
 }
