@@ -16,11 +16,8 @@ namespace kestrel::test {
 
 namespace fs = std::filesystem;
 
-struct Resultat {
-    int code = -1;    // exit code
-    std::string out;  // standard output
-    std::string err;  // standard error
-};
+// Exit code, standard output, standard error.
+struct Resultat { int code = -1; std::string out, err; };
 
 inline std::string lit_fichier(const fs::path& p) {
     std::ifstream f(p, std::ios::binary);
@@ -29,33 +26,28 @@ inline std::string lit_fichier(const fs::path& p) {
 
 // Empty folder private to this test process, removed when the process ends.
 inline fs::path dossier_test() {
-    struct Dossier {
+    static const struct Dossier {
         fs::path p = fs::temp_directory_path() / ("kestrel_test_" + std::to_string(::getpid()));
-        Dossier() {
-            fs::remove_all(p);
-            fs::create_directories(p);
-        }
-        ~Dossier() {
-            std::error_code ec;
-            fs::remove_all(p, ec);
-        }
-    };
-    static const Dossier d;
+        Dossier() { fs::remove_all(p); fs::create_directories(p); }
+        ~Dossier() { std::error_code ec; fs::remove_all(p, ec); }
+    } d;
     return d.p;
+}
+
+// Empty sub-folder `nom` of the process's folder (emptied again at each call).
+inline fs::path dossier_vide(const std::string& nom) {
+    const fs::path p = dossier_test() / nom;
+    fs::remove_all(p);
+    fs::create_directories(p);
+    return p;
 }
 
 // `exe arguments`, both streams captured.
 inline Resultat lance(const std::string& arguments, const std::string& exe = KESTREL_EXE) {
-    const fs::path out = dossier_test() / "stdout.txt";
-    const fs::path err = dossier_test() / "stderr.txt";
-    const std::string cmd = "\"" + exe + "\" " + arguments + " > \"" + out.string() + "\" 2> \"" +
-                            err.string() + "\"";
+    const fs::path out = dossier_test() / "stdout.txt", err = dossier_test() / "stderr.txt";
+    const std::string cmd = "\"" + exe + "\" " + arguments + " > \"" + out.string() + "\" 2> \"" + err.string() + "\"";
     const int s = std::system(cmd.c_str());
-    Resultat r;
-    r.code = WIFEXITED(s) ? WEXITSTATUS(s) : -1;
-    r.out = lit_fichier(out);
-    r.err = lit_fichier(err);
-    return r;
+    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, lit_fichier(out), lit_fichier(err)};
 }
 
 inline std::vector<std::string> decoupe(const std::string& texte, char sep) {
@@ -64,7 +56,6 @@ inline std::vector<std::string> decoupe(const std::string& texte, char sep) {
     for (std::string x; std::getline(f, x, sep);) v.push_back(x);
     return v;
 }
-
 inline std::vector<std::string> lignes(const std::string& texte) { return decoupe(texte, '\n'); }
 inline std::vector<std::string> champs(const std::string& ligne) { return decoupe(ligne, ','); }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "cli/outils_cli.h"
@@ -10,80 +11,68 @@
 #include "core/etat.h"
 #include "core/project/projet.h"
 
-namespace {
-
-const char* const ENTETE =
-    "j,sat_x,sat_y,sat_z,vit_x,vit_y,vit_z,sun_x,sun_y,sun_z,eclipse,anomalie_moy,lon,lat,alt";
-
 using namespace kestrel::test;
 
-struct Sortie {
-    int code = -1;
-    std::vector<std::string> lignes;  // standard output
-    std::string erreurs;              // standard error
-};
+static const char* const ENTETE =
+    "j,sat_x,sat_y,sat_z,vit_x,vit_y,vit_z,sun_x,sun_y,sun_z,eclipse,anomalie_moy,lon,lat,alt";
 
-Sortie lance_orbit(const std::string& arguments) {
+// Exit code, standard output by lines, standard error.
+static std::tuple<int, std::vector<std::string>, std::string> lance_orbit(const std::string& arguments) {
     const Resultat r = lance("orbit " + arguments);
     return {r.code, lignes(r.out), r.err};
 }
-
-}  // namespace
+static double date(const std::string& ligne) { return std::stod(champs(ligne)[0]); }
 
 TEST(CliOrbit, PeriodeParDefautUneOrbite) {
     // Default orbit: epoch 2001, day 80.55001 -> j = 18628 + 79.55001; the
     // period is 1 / 15 day = 5760 s, 48 steps of 120 s: 49 dates.
-    const Sortie r = lance_orbit("");
-    ASSERT_EQ(r.code, 0) << r.erreurs;
-    ASSERT_EQ(r.lignes.size(), 1u + 49u);
-    EXPECT_EQ(r.lignes[0], ENTETE);
-
-    const auto premier = champs(r.lignes[1]);
-    ASSERT_EQ(premier.size(), 15u);
+    const auto [code, l, err] = lance_orbit("");
+    ASSERT_EQ(code, 0) << err;
+    ASSERT_EQ(l.size(), 1u + 49u);
+    EXPECT_EQ(l[0], ENTETE);
+    for (size_t k = 1; k < l.size(); ++k) {
+        const auto c = champs(l[k]);
+        ASSERT_EQ(c.size(), 15u) << k;
+        EXPECT_TRUE(c[10] == "-1" || c[10] == "0") << c[10];
+    }
+    const auto premier = champs(l[1]);
     EXPECT_DOUBLE_EQ(std::stod(premier[0]), 18707.55001);
     EXPECT_EQ(std::stod(premier[11]), 0.0);  // mean anomaly at the epoch: 0
     // at the node, on the equator: alt = a (1 - 1e-07) - 6378.137 = 795.8622826
     EXPECT_EQ(std::stod(premier[13]), 0.0);
     EXPECT_NEAR(std::stod(premier[14]), 795.8622826, 1e-9);
-    for (size_t k = 1; k < r.lignes.size(); ++k) {
-        const auto c = champs(r.lignes[k]);
-        ASSERT_EQ(c.size(), 15u) << k;
-        EXPECT_TRUE(c[10] == "-1" || c[10] == "0") << c[10];
-    }
     // 17 significant digits: the date of the second row reads back exactly
-    EXPECT_EQ(std::stod(champs(r.lignes[2])[0]), 18707.55001 + 120.0 / 86400.0);
+    EXPECT_EQ(date(l[2]), 18707.55001 + 120.0 / 86400.0);
 }
 
 TEST(CliOrbit, PeriodeEtPasDonnes) {
-    // half a day every 600 s: 72 steps, 73 dates
-    Sortie r = lance_orbit("--start 20000 --end 20000.5 --step 600");
-    ASSERT_EQ(r.code, 0) << r.erreurs;
-    EXPECT_EQ(r.lignes.size(), 1u + 73u);
-    EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 20000.0);
-
-    // calendar dates: 2001-03-21 is day 18628 + 31 + 28 + 20 = 18707;
-    // one hour every 60 s: 61 dates
-    r = lance_orbit("--start 2001-03-21T00:00:00 --end 2001-03-21T01:00:00 --step 60");
-    ASSERT_EQ(r.code, 0) << r.erreurs;
-    EXPECT_EQ(r.lignes.size(), 1u + 61u);
-    EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 18707.0);
-
-    // every fourth year is a leap year here, 2100 too: 1 January 2100 is 150
-    // years of 365 days and 37 leap days (1952..2096) after 1950; then 31 + 28
-    r = lance_orbit("--start 2100-02-29T00:00:00 --end 2100-02-29T00:02:00");
-    ASSERT_EQ(r.code, 0) << r.erreurs;
-    EXPECT_EQ(std::stod(champs(r.lignes[1])[0]), 150.0 * 365 + 37 + 59);
+    const struct { const char* args; double debut; size_t dates; } cas[] = {
+        // half a day every 600 s: 72 steps, 73 dates
+        {"--start 20000 --end 20000.5 --step 600", 20000.0, 73},
+        // calendar dates: 2001-03-21 is day 18628 + 31 + 28 + 20 = 18707;
+        // one hour every 60 s: 61 dates
+        {"--start 2001-03-21T00:00:00 --end 2001-03-21T01:00:00 --step 60", 18707.0, 61},
+        // every fourth year is a leap year here, 2100 too: 1 January 2100 is 150
+        // years of 365 days and 37 leap days (1952..2096) after 1950; then 31 + 28;
+        // two minutes at the default 120 s: 2 dates
+        {"--start 2100-02-29T00:00:00 --end 2100-02-29T00:02:00", 150.0 * 365 + 37 + 59, 2}};
+    for (const auto& c : cas) {
+        const auto [code, l, err] = lance_orbit(c.args);
+        ASSERT_EQ(code, 0) << c.args << ": " << err;
+        EXPECT_EQ(l.size(), 1u + c.dates) << c.args;
+        EXPECT_EQ(date(l[1]), c.debut) << c.args;
+    }
 }
 
 TEST(CliOrbit, ArgumentsRefuses) {
     for (const char* a : {"--start 2001-13-01T00:00:00", "--start hier", "--end 2001-02-30T25:00:00",
                           "--start 2001-02-29T00:00:00", "--start 2002-04-31T00:00:00",
                           "--step 0", "--step -60", "--start 20001 --end 20000", "--inconnu"}) {
-        const Sortie r = lance_orbit(a);
-        EXPECT_EQ(r.code, 2) << a;
-        EXPECT_TRUE(r.lignes.empty()) << a;
-        EXPECT_FALSE(r.erreurs.empty()) << a;
-        EXPECT_EQ(r.erreurs.find('\n'), r.erreurs.size() - 1) << a << ": " << r.erreurs;  // one line
+        const auto [code, l, err] = lance_orbit(a);
+        EXPECT_EQ(code, 2) << a;
+        EXPECT_TRUE(l.empty()) << a;
+        EXPECT_FALSE(err.empty()) << a;
+        EXPECT_EQ(err.find('\n'), err.size() - 1) << a << ": " << err;  // one line
     }
 }
 
@@ -92,18 +81,14 @@ TEST(CliOrbit, FauteArreteLaMarcheLignesGardees) {
     // Starting at the apogee (anomaly 180), the rows before the perigee are
     // written, then the run stops with the French message and exit 1.
     kestrel::Etat e;
-    e.orbite.orb_demi = 7000.0;
-    e.orbite.orb_excentricite = 0.1;
-    e.orbite.orb_anomalie = 180.0;
-    const auto chemin =
-        dossier_test() / "basse.orb";
+    e.orbite = {.orb_excentricite = 0.1, .orb_anomalie = 180.0, .orb_demi = 7000.0};
+    const auto chemin = dossier_test() / "basse.orb";
     ASSERT_FALSE(kestrel::sauve_orbite(e, chemin.string()));
-    const Sortie r = lance_orbit("--orb \"" + chemin.string() + "\"");
-    std::filesystem::remove(chemin);
-    EXPECT_EQ(r.code, 1);
-    EXPECT_NE(r.erreurs.find("rayon d'ombre de 6428 km"), std::string::npos) << r.erreurs;
-    ASSERT_GT(r.lignes.size(), 2u);
-    EXPECT_LT(r.lignes.size(), 1u + 49u);
-    EXPECT_EQ(r.lignes[0], ENTETE);
-    for (size_t k = 1; k < r.lignes.size(); ++k) EXPECT_EQ(champs(r.lignes[k]).size(), 15u);
+    const auto [code, l, err] = lance_orbit("--orb \"" + chemin.string() + "\"");
+    EXPECT_EQ(code, 1);
+    EXPECT_NE(err.find("rayon d'ombre de 6428 km"), std::string::npos) << err;
+    ASSERT_GT(l.size(), 2u);
+    EXPECT_LT(l.size(), 1u + 49u);
+    EXPECT_EQ(l[0], ENTETE);
+    for (size_t k = 1; k < l.size(); ++k) EXPECT_EQ(champs(l[k]).size(), 15u) << k;
 }

@@ -3,33 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "cli/outils_cli.h"
 
-namespace {
-
 using namespace kestrel::test;
-
-Resultat lance_power(const std::string& args) { return lance("power " + args); }
 
 TEST(CliPower, HeaderAndOneRowPerDate) {
     // One hour at 600 s: dates at 0, 600, ..., 3600 s: 7 rows.
-    const Resultat r = lance_power("--start 18707.55001 --end 18707.591676666667 --step 600");
+    const Resultat r = lance("power --start 18707.55001 --end 18707.591676666667 --step 600");
     ASSERT_EQ(r.code, 0) << r.err;
     const auto l = lignes(r.out);
     ASSERT_EQ(l.size(), 1u + 7u);
     const auto entete = champs(l[0]);
     // 22 scalar columns, 39 nodes, 36 panel powers, 36 efficiencies
     ASSERT_EQ(entete.size(), 22u + 39u + 36u + 36u);
-    EXPECT_EQ(entete[0], "date");
-    EXPECT_EQ(entete[1], "eclipse");
-    EXPECT_EQ(entete[7], "gen_power");
-    EXPECT_EQ(entete[21], "t_discharge");
-    EXPECT_EQ(entete[22], "node_t_0");
-    EXPECT_EQ(entete[60], "node_t_38");
-    EXPECT_EQ(entete[61], "pan_power_0");
-    EXPECT_EQ(entete[97], "cell_eff_0");
-    EXPECT_EQ(entete.back(), "cell_eff_35");
+    for (auto [i, nom] : {std::pair{0, "date"}, {1, "eclipse"}, {7, "gen_power"}, {21, "t_discharge"},
+                          {22, "node_t_0"}, {60, "node_t_38"}, {61, "pan_power_0"}, {97, "cell_eff_0"},
+                          {132, "cell_eff_35"}})
+        EXPECT_EQ(entete[i], nom) << i;
     for (std::size_t i = 1; i < l.size(); ++i) EXPECT_EQ(champs(l[i]).size(), entete.size()) << i;
     EXPECT_EQ(champs(l[1])[0], "18707.550009999999");  // 17 significant digits
     // The new project gives no generator power: 600 s of discharge a step, 1200 s at the second.
@@ -37,27 +29,20 @@ TEST(CliPower, HeaderAndOneRowPerDate) {
 }
 
 TEST(CliPower, SummaryOfTheExampleWithExternalPanels) {
-    const Resultat r = lance_power("--pwr \"" KESTREL_SOURCE_DIR "/examples/panneaux_externes.pwr\" --summary");
+    const Resultat r = lance("power --pwr \"" KESTREL_SOURCE_DIR "/examples/panneaux_externes.pwr\" --summary");
     ASSERT_EQ(r.code, 0) << r.err;
     EXPECT_NE(r.out.find("Fraction en éclipse"), std::string::npos) << r.out;
     EXPECT_NE(r.out.find("Puissance générateur"), std::string::npos) << r.out;
     EXPECT_EQ(r.out.find("date,"), std::string::npos);
 }
 
-TEST(CliPower, StartNotAfterTheCellsDateIsRefused) {
+TEST(CliPower, CellsDateAndArgumentsRefused) {
     // "Date initiale cellules" of a new project: day 17897
-    const Resultat r = lance_power("--start 17897 --end 17898");
+    const Resultat r = lance("power --start 17897 --end 17898");
     EXPECT_EQ(r.code, 1);
     EXPECT_NE(r.err.find("Attention, la date initiale des panneaux (données thermiques) est postérieure à la "
-                         "date courante"),
-              std::string::npos)
-        << r.err;
+                         "date courante"), std::string::npos) << r.err;
     EXPECT_TRUE(r.out.empty());
+    EXPECT_EQ(lance("power --pointing 1,2").code, 2);
+    EXPECT_EQ(lance("power --spin abc").code, 2);
 }
-
-TEST(CliPower, BadPointingIsAnArgumentError) {
-    EXPECT_EQ(lance_power("--pointing 1,2").code, 2);
-    EXPECT_EQ(lance_power("--spin abc").code, 2);
-}
-
-}  // namespace

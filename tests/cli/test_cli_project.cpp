@@ -7,41 +7,24 @@
 
 #include "cli/outils_cli.h"
 
-namespace {
-
 using namespace kestrel::test;
 
-std::string octets(const fs::path& p) { return lit_fichier(p); }
-
-struct Dossier {
-    fs::path p = dossier_test() / "projet";
-    Dossier() {
-        fs::remove_all(p);
-        fs::create_directories(p);
-    }
-    ~Dossier() { fs::remove_all(p); }
-};
-
-}  // namespace
+// `project show p`: exit code 0, then each line expected in the listing and its line count.
+static void attend_liste(const fs::path& p, long n, std::initializer_list<const char*> attendues) {
+    const Resultat r = lance("project show " + p.string());
+    ASSERT_EQ(r.code, 0) << r.err;
+    if (n >= 0) { EXPECT_EQ(std::count(r.out.begin(), r.out.end(), '\n'), n); }
+    for (const char* a : attendues) EXPECT_NE(r.out.find(std::string(a) + "\n"), std::string::npos) << a;
+}
 
 TEST(CliProject, NouveauPuisListe) {
-    Dossier d;
-    const auto pwr = d.p / "n.pwr", att = d.p / "n.att", orb = d.p / "n.orb";
-    const Resultat r =
-        lance("project new --pwr " + pwr.string() + " --att " + att.string() + " --orb " + orb.string());
-    ASSERT_EQ(r.code, 0);
-    EXPECT_EQ(octets(pwr), octets(std::string(KESTREL_SOURCE_DIR) + "/tests/data/defaut.pwr"));
+    const fs::path d = dossier_vide("projet"), pwr = d / "n.pwr", att = d / "n.att", orb = d / "n.orb";
+    ASSERT_EQ(lance("project new --pwr " + pwr.string() + " --att " + att.string() + " --orb " + orb.string()).code, 0);
+    EXPECT_EQ(lit_fichier(pwr), lit_fichier(KESTREL_SOURCE_DIR "/tests/data/defaut.pwr"));
     EXPECT_EQ(fs::file_size(att), 820u);
     EXPECT_EQ(fs::file_size(orb), 128u);
-
     // 279 lines less the 46 comment lines leave 233 fields.
-    const Resultat sp = lance("project show " + pwr.string());
-    ASSERT_EQ(sp.code, 0);
-    EXPECT_EQ(std::count(sp.out.begin(), sp.out.end(), '\n'), 233);
-    EXPECT_NE(sp.out.find("cel_isc = 0.53\n"), std::string::npos);
-    EXPECT_NE(sp.out.find("ch_pt(3,0) = 120\n"), std::string::npos);
-    EXPECT_NE(sp.out.find("opt_panel_ext = -1\n"), std::string::npos);
-    EXPECT_NE(sp.out.find("pas_sim = 120\n"), std::string::npos);
+    attend_liste(pwr, 233, {"cel_isc = 0.53", "ch_pt(3,0) = 120", "opt_panel_ext = -1", "pas_sim = 120"});
 
     // The face centre of +x on x, 0.225 as written, made 9.0 (0x4022000000000000)
     // in the file: the listing shows the file as stored, not a rebuilt table.
@@ -52,24 +35,15 @@ TEST(CliProject, NouveauPuisListe) {
         f.seekp(556);
         f.write("\0\0\0\0\0\0", 6);
     }
-    const Resultat sa = lance("project show " + att.string());
-    ASSERT_EQ(sa.code, 0);
     // 820 bytes = 101 reals of 8 bytes and 6 words of 2.
-    EXPECT_EQ(std::count(sa.out.begin(), sa.out.end(), '\n'), 107);
-    EXPECT_NE(sa.out.find("Masse = 50\n"), std::string::npos);
-    EXPECT_NE(sa.out.find("I_corps(2,2) = 2.541\n"), std::string::npos);
-    EXPECT_NE(sa.out.find("face_c(0,0) = 9\n"), std::string::npos);
-
-    const Resultat so = lance("project show " + orb.string());
-    ASSERT_EQ(so.code, 0);
-    EXPECT_NE(so.out.find("orb_an = 2001\n"), std::string::npos);
-    EXPECT_NE(so.out.find("orb_jour = 80.55001\n"), std::string::npos);
+    attend_liste(att, 107, {"Masse = 50", "I_corps(2,2) = 2.541", "face_c(0,0) = 9"});
+    attend_liste(orb, -1, {"orb_an = 2001", "orb_jour = 80.55001"});
 }
 
 TEST(CliProject, Refus) {
-    Dossier d;
+    const fs::path d = dossier_vide("projet");
     EXPECT_EQ(lance("project new").code, 2);                                   // nothing to write
-    EXPECT_EQ(lance("project show " + (d.p / "x.txt").string()).code, 2);      // unknown kind
-    EXPECT_EQ(lance("project show " + (d.p / "absent.pwr").string()).code, 1);  // unreadable
-    EXPECT_EQ(lance("project new --pwr " + (d.p / "non/x.pwr").string()).code, 1);
+    EXPECT_EQ(lance("project show " + (d / "x.txt").string()).code, 2);      // unknown kind
+    EXPECT_EQ(lance("project show " + (d / "absent.pwr").string()).code, 1);  // unreadable
+    EXPECT_EQ(lance("project new --pwr " + (d / "non/x.pwr").string()).code, 1);
 }
