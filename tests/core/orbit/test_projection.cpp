@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <tuple>
+#include <vector>
 
 #include "core/etat.h"
 #include "core/orbit/orb_projection.h"
@@ -24,14 +25,10 @@ static auto lla(const Geo& g) { return std::tuple(g.lon, g.lat, g.alt); }
 TEST(Soleil, DistanceEquinoxesEtSolstice) {
     // R = 1.00014 - 0.01675 cos g - 0.00014 cos 2g AU: 0.98325 at g = 0,
     // 1.01675 at g = pi; g turns once in 365.26 days.
-    double rmin = 10, rmax = 0;
-    for (double j = 18262.0; j < 18262.0 + 366.0; j += 0.1) {
-        const double r = norme(soleil_vecteur(j)) / UA;
-        rmin = std::min(rmin, r);
-        rmax = std::max(rmax, r);
-    }
-    EXPECT_NEAR(rmin, 1.00014 - 0.01675 - 0.00014, 1e-7);
-    EXPECT_NEAR(rmax, 1.00014 + 0.01675 - 0.00014, 1e-7);
+    std::vector<double> r;
+    for (double j = 18262.0; j < 18262.0 + 366.0; j += 0.1) r.push_back(norme(soleil_vecteur(j)) / UA);
+    EXPECT_NEAR(*std::min_element(r.begin(), r.end()), 1.00014 - 0.01675 - 0.00014, 1e-7);
+    EXPECT_NEAR(*std::max_element(r.begin(), r.end()), 1.00014 + 0.01675 - 0.00014, 1e-7);
 
     // 2000: March equinox 20 March 07:35 UT (j = 18341.316), September
     // equinox 22 September 17:27 (j = 18527.727), June solstice 21 June 01:48
