@@ -28,13 +28,7 @@ TEST(CliProject, NouveauPuisListe) {
 
     // The face centre of +x on x, 0.225 as written, made 9.0 (0x4022000000000000)
     // in the file: the listing shows the file as stored, not a rebuilt table.
-    {
-        std::fstream f(att, std::ios::binary | std::ios::in | std::ios::out);
-        f.seekp(556 + 6);
-        f.write("\x22\x40", 2);
-        f.seekp(556);
-        f.write("\0\0\0\0\0\0", 6);
-    }
+    std::fstream(att, std::ios::binary | std::ios::in | std::ios::out).seekp(556).write("\0\0\0\0\0\0\x22\x40", 8);
     // 820 bytes = 101 reals of 8 bytes and 6 words of 2.
     attend_liste(att, 107, {"Masse = 50", "I_corps(2,2) = 2.541", "face_c(0,0) = 9"});
     attend_liste(orb, -1, {"orb_an = 2001", "orb_jour = 80.55001"});
