@@ -16,6 +16,15 @@ PointCourbe point(const float pts[4][6], int j, double l, double dt) {
     const float* c = pts[j];
     return {(c[0] + c[1] * dt + c[2] * l) / 100, c[3] + c[4] * dt + c[5] * l};
 }
+
+// The straight part of a curve, from point 1 to point 2, abscissas clamped to 0..1.
+struct Segment {
+    double x1, x2, v1, v2;
+};
+Segment segment(const float pts[4][6], double l, double dt) {
+    const PointCourbe p1 = point(pts, 1, l, dt), p2 = point(pts, 2, l, dt);
+    return {std::clamp(p1.x, 0.0, 1.0), std::clamp(p2.x, 0.0, 1.0), p1.y, p2.y};
+}
 }  // namespace
 
 PointCourbe point_courbe(const float pts[4][6], int j, double i, double t) {
@@ -39,11 +48,7 @@ double bat_v_discharge(const PowerRecord& p, double i, double t, double soc) {
     if (!(soc > 0)) return 0;
     const double x = 1 - soc;  // depth of discharge
     const double l = std::log10(i), dt = t - 25;
-    const PointCourbe p1 = point(p.de_pt, 1, l, dt), p2 = point(p.de_pt, 2, l, dt);
-    const double x1 = std::clamp(p1.x, 0.0, 1.0);
-    const double x2 = std::clamp(p2.x, 0.0, 1.0);
-    const double v1 = p1.y;
-    const double v2 = p2.y;
+    const auto [x1, x2, v1, v2] = segment(p.de_pt, l, dt);
     const double s = (v2 - v1) / (x2 - x1);
 
     double a, b, c;
@@ -76,11 +81,7 @@ double bat_v_charge(Etat& etat, double i, double t, double soc) {
     if (!faute) {
         const double x = soc;
         const double l = std::log10(i), dt = t - 25;
-        const PointCourbe p1 = point(p.ch_pt, 1, l, dt), p2 = point(p.ch_pt, 2, l, dt);
-        const double x1 = std::clamp(p1.x, 0.0, 1.0);
-        const double x2 = std::clamp(p2.x, 0.0, 1.0);
-        const double v1 = p1.y;
-        const double v2 = p2.y;
+        const auto [x1, x2, v1, v2] = segment(p.ch_pt, l, dt);
         const double s = div(v2 - v1, x2 - x1);
         if (x < x1) {
             const double v0 = point(p.ch_pt, 0, l, dt).y;
