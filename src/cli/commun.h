@@ -23,6 +23,7 @@ Commande enregistre_orbit(CLI::App& app);
 Commande enregistre_project(CLI::App& app);
 Commande enregistre_power(CLI::App& app);
 Commande enregistre_attitude(CLI::App& app);
+Commande enregistre_study(CLI::App& app);
 
 struct OptionsCommunes {
     std::string pwr, att, orb;  // project files; empty: new-project defaults

@@ -10,7 +10,8 @@ int main(int argc, char** argv) {
                  "Runs the orbit, power and attitude models over a period and writes CSV."};
     app.require_subcommand(1);
     std::vector<Commande> commandes{enregistre_orbit(app), enregistre_project(app),
-                                    enregistre_power(app), enregistre_attitude(app)};
+                                    enregistre_power(app), enregistre_attitude(app),
+                                    enregistre_study(app)};
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp& e) {

@@ -60,6 +60,10 @@ std::string texte_erreur(const Erreur& e) {
                                texte_date(e.date));
         case CodeErreur::date_cellules:
             return msg::date_cellules;
+        case CodeErreur::recharge_trop_longue:
+            return fmt::format("Recharge abandonnée : la batterie n'est toujours pas pleine après {} de "
+                               "charge. Le courant de charge est trop faible.",
+                               e.detail);
     }
     return {};
 }

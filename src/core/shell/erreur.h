@@ -22,6 +22,7 @@ enum class CodeErreur {
     valeur_non_finie,       // NaN or infinity in the state (detail = field)
     faute_calcul,           // any other floating-point fault (detail = where)
     date_cellules,          // start date not after "Date initiale cellules"
+    recharge_trop_longue,   // battery study: not full after its cap (detail = hh:mm:ss)
 };
 
 struct Erreur {

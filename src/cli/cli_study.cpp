@@ -1,0 +1,165 @@
+// kestrel study battery | generator: the two sizing studies of the power
+// windows, same loops, CSV out.
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+#include <fmt/format.h>
+
+#include "cli/commun.h"
+#include "core/power/etude_batterie.h"
+#include "core/power/etude_generateur.h"
+#include "core/shell/messages.h"
+
+namespace kestrel::cli {
+
+namespace {
+
+struct OptionsBatterie {
+    OptionsCommunes communes;
+    EntreesBatterie e;
+    std::string mode = "power";
+};
+
+struct OptionsGenerateur {
+    OptionsCommunes communes;
+    std::string vue = "temperature";
+};
+
+int echec_run(const Erreur& e) {
+    std::cerr << "kestrel: " << texte_erreur(e) << "\n";
+    return SORTIE_ECHEC;
+}
+
+int lance_batterie(OptionsBatterie o) {
+    Etat etat;
+    if (int r = prepare_etat(o.communes, etat); r != SORTIE_OK) return r;
+    o.e.puissance_constante = o.mode == "power";
+    if (Verdict v = verifie_entrees(etat.pwr, o.e); !v.ok) {
+        std::string m = v.message;
+        std::replace(m.begin(), m.end(), '\n', ' ');
+        std::cerr << "kestrel: " << m << "\n";
+        return SORTIE_ARGUMENTS;
+    }
+    Sortie sortie(o.communes.out);
+    if (!sortie.ok()) {
+        std::cerr << "kestrel: impossible d'écrire " << o.communes.out << "\n";
+        return SORTIE_ECHEC;
+    }
+    const ResultatBatterie r = etude_batterie(etat.pwr, o.e);
+    if (r.alerte_charge) std::cerr << msg::incompat_charge << "\n";
+
+    std::ostream& out = sortie.flux();
+    out << "DOD %," << r.dod << "\n";
+    out << "Temps de recharge," << texte_duree(r.temps_recharge) << "\n";
+    out << "t,phase,s,v,i\n";
+    std::string l;
+    for (const EchantillonBatterie& x : r.echantillons) {
+        l = fmt::format("{},{},{},{},{}\n", x.t, static_cast<char>(x.phase), nombre(x.s), nombre(x.v), nombre(x.i));
+        out << l;
+    }
+    out.flush();
+    if (r.faute) return echec_run(r.faute);
+    return SORTIE_OK;
+}
+
+// Largest and smallest value of each column, NaN cells left out.
+void ecrit_resume(const ResultatGenerateur& r, const TableGenerateur& t) {
+    std::cerr << fmt::format("Simulation panneaux solaires : {} pas\n", r.dates.size());
+    for (std::size_t c = 0; c < t.colonnes(); ++c) {
+        double hi = -std::numeric_limits<double>::infinity(), lo = -hi;
+        for (std::size_t l = 0; l < t.lignes(); ++l) {
+            const double x = t.valeur(l, c);
+            if (std::isnan(x)) continue;
+            hi = std::max(hi, x);
+            lo = std::min(lo, x);
+        }
+        if (hi < lo)
+            std::cerr << fmt::format("{} : aucune valeur\n", t.titres[c]);
+        else
+            std::cerr << fmt::format("{} : max {:.3f} {}, min {:.3f} {}\n", t.titres[c], hi, t.unites[c], lo,
+                                     t.unites[c]);
+    }
+}
+
+int lance_generateur(const OptionsGenerateur& o) {
+    Etat etat;
+    if (int r = prepare_etat(o.communes, etat); r != SORTIE_OK) return r;
+    const VueGenerateur vue = o.vue == "power"  ? VueGenerateur::puissance
+                              : o.vue == "flux" ? VueGenerateur::flux
+                                                : VueGenerateur::temperature;
+    Sortie sortie(o.communes.out);
+    if (!sortie.ok()) {
+        std::cerr << "kestrel: impossible d'écrire " << o.communes.out << "\n";
+        return SORTIE_ECHEC;
+    }
+    const ResultatGenerateur r = etude_generateur(etat);
+    if (r.faute.code == CodeErreur::date_cellules) return echec_run(r.faute);
+    if (r.alerte_charge) std::cerr << msg::incompat_charge << "\n";
+
+    const TableGenerateur& t = r.table(vue);
+    std::ostream& out = sortie.flux();
+    out << "date (j),eclipse";
+    for (std::size_t c = 0; c < t.colonnes(); ++c) out << ',' << t.titres[c] << " (" << t.unites[c] << ')';
+    out << '\n';
+    std::string l;
+    for (std::size_t i = 0; i < t.lignes(); ++i) {
+        l = nombre(r.dates[i]);
+        l += r.eclipses[i] ? ",1" : ",0";
+        for (std::size_t c = 0; c < t.colonnes(); ++c) {
+            l += ',';
+            if (const double x = t.valeur(i, c); !std::isnan(x)) l += nombre(x);
+        }
+        l += '\n';
+        out << l;
+    }
+    out.flush();
+    ecrit_resume(r, t);
+    if (r.faute) return echec_run(r.faute);
+    return SORTIE_OK;
+}
+
+}  // namespace
+
+Commande enregistre_study(CLI::App& app) {
+    Commande c;
+    c.app = app.add_subcommand("study", "The battery and solar generator sizing studies");
+    c.app->require_subcommand(1);
+
+    auto b = std::make_shared<OptionsBatterie>();
+    CLI::App* bat = c.app->add_subcommand(
+        "battery", "One accumulator: eclipse discharge then recharge, 1 s steps, a row every 10 s");
+    bat->add_option("--pwr", b->communes.pwr, "power project (.pwr) giving the battery laws; default: a new project");
+    bat->add_option("--out", b->communes.out, "output file; default: standard output");
+    bat->add_option("--tecl", b->e.duree_eclipse, "eclipse (discharge) duration, minutes")->capture_default_str();
+    bat->add_option("--temp", b->e.temperature, "battery temperature, °C")->capture_default_str();
+    bat->add_option("--k", b->e.k_recharge, "recharge coefficient (charge put back / charge taken)")
+        ->capture_default_str();
+    bat->add_option("--vmax", b->e.v_max, "maximum charge voltage per accumulator, V")->capture_default_str();
+    bat->add_option("--ich", b->e.i_charge, "charge current, C units")->capture_default_str();
+    bat->add_option("--mode", b->mode, "discharge at constant power or constant current")
+        ->check(CLI::IsMember({"power", "current"}))
+        ->capture_default_str();
+    bat->add_option("--power", b->e.puissance, "discharge power over Cnom, V/h (W per Ah)")->capture_default_str();
+    bat->add_option("--current", b->e.i_decharge,
+                    "discharge current, C units (first guess of the current at constant power)")
+        ->capture_default_str();
+
+    auto g = std::make_shared<OptionsGenerateur>();
+    CLI::App* gen =
+        c.app->add_subcommand("generator", "power_step over the period, per-panel table of one view");
+    ajoute_options_communes(gen, g->communes);
+    gen->add_option("--view", g->vue, "temperature (°C), power (W) or flux (W/m²)")
+        ->check(CLI::IsMember({"temperature", "power", "flux"}))
+        ->capture_default_str();
+
+    c.lance = [b, g, bat, gen] {
+        if (bat->parsed()) return lance_batterie(*b);
+        if (gen->parsed()) return lance_generateur(*g);
+        return SORTIE_ARGUMENTS;
+    };
+    return c;
+}
+
+}  // namespace kestrel::cli
