@@ -58,6 +58,7 @@ ResultatBatterie etude_batterie(const PowerRecord& lois, const EntreesBatterie& 
             echantillon(t, PhaseBatterie::decharge, s, v, i, static_cast<long>(std::floor(t / 60.0 * 100)),
                         max_decharge);
     }
+    r.decharge_terminee = true;
     r.dod = static_cast<int>(std::floor((1 - s) * 100));
 
     const double s0 = s;

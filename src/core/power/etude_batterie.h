@@ -43,6 +43,7 @@ struct ProgressionBatterie {
 
 struct ResultatBatterie {
     std::vector<EchantillonBatterie> echantillons;
+    bool decharge_terminee = false;
     int dod = 0;                 // %, Int((1 - s) * 100) at the end of the discharge
     long temps_recharge = 0;     // s
     bool termine = false;        // false when stopped, capped or failed

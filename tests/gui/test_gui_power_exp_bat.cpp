@@ -1,0 +1,187 @@
+// power_exp_bat driven by its object names: captions, the checked boxes, a
+// discharge and recharge with their results and curves, a stop during an
+// endless recharge, and the command line giving the same figures.
+#include <QtTest>
+#include <QtWidgets>
+#include <memory>
+
+#include "core/etat.h"
+#include "faux_dialogues.h"
+#include "power/graphes_batterie.h"
+#include "power/power_exp_bat.h"
+#include "shell/menu.h"
+
+using kestrel::Icone;
+using kestrel::gui::GraphesBatterie;
+using kestrel::gui::power_exp_bat;
+using Message = FauxDialogues::Message;
+
+namespace {
+
+struct Banc {
+    kestrel::Etat etat;
+    FauxDialogues dlg;
+    std::unique_ptr<kestrel::gui::menu> m = std::make_unique<kestrel::gui::menu>(etat, dlg);
+    power_exp_bat* fen = nullptr;
+
+    Banc() {
+        m->findChild<QAction*>("mn_exp_pow_bat")->trigger();
+        fen = m->findChild<power_exp_bat*>("power_exp_bat");
+        if (!fen) qFatal("power_exp_bat not opened");
+        if (!QTest::qWaitForWindowActive(fen)) qWarning("window not active");
+    }
+    template <class T>
+    T* ctrl(const char* nom) {
+        T* c = fen->findChild<T*>(QString::fromUtf8(nom));
+        if (!c) qFatal("control %s not found", nom);
+        return c;
+    }
+    QLineEdit* txt(const char* nom) { return ctrl<QLineEdit>(nom); }
+    // Types into a box as a user does, then leaves it with a click elsewhere.
+    void saisit(const char* nom, const QString& texte) {
+        QLineEdit* c = txt(nom);
+        c->setFocus();
+        c->selectAll();
+        QTest::keyClicks(c, texte);
+        ctrl<QPushButton>("cmd_saisir")->setFocus();
+    }
+    void remplit(const QList<std::pair<const char*, const char*>>& champs) {
+        for (const auto& [nom, texte] : champs) saisit(nom, texte);
+    }
+    QString lab(const char* nom) { return ctrl<QLabel>(nom)->text(); }
+};
+
+// `kestrel study battery args`: its DOD and recharge time lines.
+QStringList ligne_de_commande(const QStringList& args) {
+    QProcess p;
+    p.start(QCoreApplication::applicationDirPath() + "/kestrel", QStringList{"study", "battery"} + args);
+    if (!p.waitForFinished(60000) || p.exitCode() != 0) return {};
+    return QString::fromUtf8(p.readAllStandardOutput()).split('\n').mid(0, 2);
+}
+
+}  // namespace
+
+class TestPowerExpBat : public QObject {
+    Q_OBJECT
+private slots:
+    void captions_and_menu_entry();
+    void boxes_refuse_bad_values();
+    void discharge_then_recharge();
+    void stop_during_an_endless_recharge();
+    void same_figures_as_the_command_line();
+};
+
+void TestPowerExpBat::captions_and_menu_entry() {
+    Banc b;
+    QCOMPARE(b.fen->windowTitle(), "Charge/Décharge des batteries");
+    const std::pair<const char*, const char*> textes[] = {
+        {"lbl_tecl", "Durée d'éclipse (mn)"}, {"lbl_chk", "Coefficient de recharge"},
+        {"lbl_chvmax", "Tension maximum (V)"}, {"lbl_chcour", "Courant/Cnom (/h)"},
+        {"lbl_depuis", "Puissance/Cnom (V/h)"}, {"lbl_decour", "Courant/Cnom (/h)"},
+        {"lbl_dod", "DOD %"},                 {"lbl_tch", "Temps de recharge"}};
+    for (const auto& [nom, texte] : textes) QCOMPARE(b.lab(nom), QString::fromUtf8(texte));
+    QVERIFY(b.lab("lbl_tchde").startsWith("Température ("));
+    for (const auto& [nom, texte] : {std::pair{"opt_depuis", "Puissance constante"}, {"opt_decour", "Courant constant"}})
+        QCOMPARE(b.ctrl<QRadioButton>(nom)->text(), QString::fromUtf8(texte));
+    for (const auto& [nom, texte] : {std::pair{"cmd_saisir", "Saisir"}, {"cmd_quit", "Quitter"}})
+        QCOMPARE(b.ctrl<QPushButton>(nom)->text(), QString::fromUtf8(texte));
+    QVERIFY(b.fen->findChild<GraphesBatterie*>("pict_graphs"));
+    QVERIFY(b.fen->findChild<QScrollArea*>("scroll_graphs"));
+    // Return moves to the next box.
+    b.txt("txt_tecl")->setFocus();
+    QTest::keyClick(b.txt("txt_tecl"), Qt::Key_Return);
+    QVERIFY(b.txt("txt_tchde")->hasFocus());
+    // The entry opens the same window again.
+    b.ctrl<QPushButton>("cmd_quit")->click();
+    QVERIFY(!b.fen->isVisible());
+    b.m->findChild<QAction*>("mn_exp_pow_bat")->trigger();
+    QCOMPARE(b.m->findChildren<power_exp_bat*>().size(), 1);
+    QVERIFY(b.fen->isVisible());
+}
+
+void TestPowerExpBat::boxes_refuse_bad_values() {
+    Banc b;
+    const Message invalide{"Type de donnée non valide", Icone::critique};
+    // k: ]0, 10]; temperature: [bat_tmin = -50, 100]
+    b.saisit("txt_chk", "abc");
+    QCOMPARE(b.dlg.messages.last(), invalide);
+    b.saisit("txt_chk", "0");
+    QCOMPARE(b.dlg.messages.last().texte, "Valeur hors limite !! Saisissez une valeur : \n0 < Valeur <= 10");
+    QCOMPARE(b.txt("txt_chk")->text(), "1.05");
+    QCOMPARE(b.fen->entrees().k_recharge, 1.05);
+    b.saisit("txt_tchde", "-51");
+    QCOMPARE(b.dlg.messages.last().texte, "Valeur hors limite !! Saisissez une valeur : \n-50 <= Valeur <= 100");
+    const auto avant = b.dlg.messages.size();
+    b.remplit({{"txt_chk", "1"}, {"txt_tchde", "-50"}});
+    QCOMPARE(b.dlg.messages.size(), avant);
+    QCOMPARE(b.fen->entrees().k_recharge, 1.0);
+    QCOMPARE(b.fen->entrees().temperature, -50.0);
+}
+
+void TestPowerExpBat::discharge_then_recharge() {
+    Banc b;
+    // 10 min at 1C and 25 °C take 601 / (0.99485631 * 3600) = 0.1678 (DOD 16);
+    // 0.5C with k = 1 puts it back in ceil(0.1678 * 7200) = 1209 s.
+    b.remplit({{"txt_tecl", "10"}, {"txt_tchde", "25"}, {"txt_chk", "1"}, {"txt_chvmax", "2"},
+               {"txt_chcour", "0.5"}, {"txt_decour", "1"}});
+    b.ctrl<QRadioButton>("opt_decour")->click();
+    QVERIFY(b.dlg.messages.isEmpty());
+    b.ctrl<QPushButton>("cmd_saisir")->click();
+    QCOMPARE(b.lab("lab_dod"), "16");
+    QCOMPARE(b.lab("lab_tch"), "00:20:09");
+    QCOMPARE(b.lab("lab_status"), "100.0 %");
+    QCOMPARE(b.ctrl<QProgressBar>("statusbar")->value(), b.ctrl<QProgressBar>("statusbar")->maximum());
+    // 61 discharge samples (t = 0..600 by 10 s) and 120 recharge ones (610..1800).
+    auto* g = b.fen->findChild<GraphesBatterie*>("pict_graphs");
+    QCOMPARE(g->echantillons().size(), std::size_t(61 + 120));
+    // The curves are drawn: blue pixels in the picture.
+    const QImage image = g->grab().toImage();
+    int bleus = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) bleus += image.pixelColor(x, y) == QColor(0, 0, 255);
+    QVERIFY2(bleus > 200, qPrintable(QString::number(bleus)));
+    QDir().mkpath(QCoreApplication::applicationDirPath() + "/../artefacts");
+    b.fen->grab().save(QCoreApplication::applicationDirPath() + "/../artefacts/power_exp_bat.png");
+}
+
+void TestPowerExpBat::stop_during_an_endless_recharge() {
+    Banc b;
+    // At 1e-6 C the recharge would take over 10^10 s: the stop button ends it,
+    // which shows that the events keep flowing while it runs.
+    b.remplit({{"txt_tecl", "30"}, {"txt_chcour", "0.000001"}});
+    QTimer::singleShot(300, b.fen, [&b] {
+        QVERIFY(b.fen->en_cours());
+        QVERIFY(!b.ctrl<QPushButton>("cmd_saisir")->isEnabled());
+        b.ctrl<QPushButton>("cmd_stopcalcul")->click();
+    });
+    QElapsedTimer montre;
+    montre.start();
+    b.ctrl<QPushButton>("cmd_saisir")->click();
+    QVERIFY(montre.elapsed() < 5000);
+    QVERIFY(!b.fen->en_cours());
+    QCOMPARE(b.lab("lab_status"), "Interrompu");
+    QVERIFY(!b.lab("lab_dod").isEmpty());  // the discharge had finished
+    QVERIFY(b.lab("lab_tch").isEmpty());
+    QVERIFY(b.ctrl<QPushButton>("cmd_saisir")->isEnabled());
+    QVERIFY(!b.ctrl<QPushButton>("cmd_stopcalcul")->isEnabled());
+    QVERIFY(b.dlg.messages.isEmpty());
+    b.fen->grab().save(QCoreApplication::applicationDirPath() + "/../artefacts/power_exp_bat_arret.png");
+}
+
+void TestPowerExpBat::same_figures_as_the_command_line() {
+    // Constant power, the solvers in play, on both sides.
+    Banc b;
+    b.remplit({{"txt_tecl", "35"}, {"txt_tchde", "10"}, {"txt_chk", "1.1"}, {"txt_chvmax", "1.45"},
+               {"txt_chcour", "0.3"}, {"txt_depuis", "0.8"}, {"txt_decour", "0.6"}});
+    b.ctrl<QPushButton>("cmd_saisir")->click();
+    const QStringList cli = ligne_de_commande({"--tecl", "35", "--temp", "10", "--k", "1.1", "--vmax", "1.45",
+                                               "--ich", "0.3", "--mode", "power", "--power", "0.8", "--current",
+                                               "0.6"});
+    QCOMPARE(cli.size(), 2);
+    QCOMPARE(cli[0], "DOD %," + b.lab("lab_dod"));
+    QCOMPARE(cli[1], "Temps de recharge," + b.lab("lab_tch"));
+    QVERIFY(!b.lab("lab_tch").isEmpty());
+}
+
+QTEST_MAIN(TestPowerExpBat)
+#include "test_gui_power_exp_bat.moc"
