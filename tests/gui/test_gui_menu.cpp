@@ -2,6 +2,7 @@
 // step, real-time mode, project open/save and the end of the program.
 #include <QtTest>
 #include <QtWidgets>
+#include <algorithm>
 #include <memory>
 
 #include "core/etat.h"
@@ -180,7 +181,7 @@ void TestMenu::entrees_et_touches() {
     for (const char* nom : {"mn_fichier_ouvrir", "mn_fichier_enreg", "mn_fichier_enregsous", "mn_attfich_ouvrir",
                             "mn_attfich_enreg", "mn_attfich_enregsous", "mn_fichier_quit"})
         QVERIFY2(b.ctrl<QAction>(nom)->isEnabled(), nom);
-    for (const char* nom : {"mn_fic_pow", "mn_fic_att", "mn_sim_car"})
+    for (const char* nom : {"mn_fic_pow", "mn_fic_att"})
         QVERIFY2(!b.ctrl<QAction>(nom)->isEnabled(), nom);
     // Texts word for word; the commands under the two label entries keep their two leading blanks.
     for (const auto& [nom, texte] :
@@ -234,16 +235,27 @@ void TestMenu::entrees_et_touches() {
     QCOMPARE(b.dlg.demandes.size(), 3);
     QVERIFY(b.dlg.questions.isEmpty());
 
-    // A disabled entry's keys are disabled with it, and come on when it is given a command.
-    QVERIFY(!b.cle("Toolbar_orb", "orbite")->isEnabled() && !b.cle("Toolbar_power", "orb")->isEnabled());
+    // A disabled entry's keys are disabled with it, and come on when it is
+    // given a command: the first of these entries whose window is not built yet.
+    struct Cas {
+        const char *entree, *barre, *cle;
+    };
+    const Cas candidats[] = {{"mn_exp_att_data", "Toolbar_att", "expatt"},
+                             {"mn_sim_att_com", "Toolbar_att", "simulation"},
+                             {"mn_exp_pow_bat", "Toolbar_power", "exp_bat"},
+                             {"mn_exp_pow_data", "Toolbar_power", "exp_data"}};
+    const Cas* c = std::find_if(std::begin(candidats), std::end(candidats),
+                                [&](const Cas& k) { return !b.ctrl<QAction>(k.entree)->isEnabled(); });
+    if (c == std::end(candidats)) QSKIP("every window of these entries is built");
+    QVERIFY(!b.cle(c->barre, c->cle)->isEnabled());
     const QString pourquoi = "Fenêtre non disponible dans cette version";
-    QCOMPARE(b.ctrl<QAction>("mn_sim_car")->toolTip(), pourquoi);
+    QCOMPARE(b.ctrl<QAction>(c->entree)->toolTip(), pourquoi);
     int ouvertures = 0;
-    b.fen->branche("mn_sim_car", [&] { ++ouvertures; });
-    QVERIFY(b.cle("Toolbar_orb", "orbite")->isEnabled() && b.cle("Toolbar_power", "orb")->isEnabled());
-    QVERIFY(b.ctrl<QAction>("mn_sim_car")->toolTip() != pourquoi);
-    b.cle("Toolbar_orb", "orbite")->trigger();
-    b.cle("Toolbar_power", "orb")->trigger();
+    b.fen->branche(c->entree, [&] { ++ouvertures; });
+    QVERIFY(b.cle(c->barre, c->cle)->isEnabled());
+    QVERIFY(b.ctrl<QAction>(c->entree)->toolTip() != pourquoi);
+    b.cle(c->barre, c->cle)->trigger();
+    b.ctrl<QAction>(c->entree)->trigger();
     QCOMPARE(ouvertures, 2);
 }
 

@@ -1,5 +1,6 @@
 #include "shell/fenetres.h"
 
+#include "orbit/orbito_conf.h"
 #include "power/power_exp_bat.h"
 #include "shell/menu.h"
 
@@ -10,6 +11,8 @@ namespace kestrel::gui {
 // A window tagged "conf" or "attconf" joins m.registre() when it is created.
 void branche_fenetres(menu& m) {
     m.branche("mn_exp_pow_bat", [&m] { ouvre_power_exp_bat(m); });
+    m.branche("mn_sim_car", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_orbite); });
+    m.branche("mn_conf_pow_rad", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_environnement); });
 }
 
 }  // namespace kestrel::gui

@@ -26,12 +26,13 @@ public:
 
     // The text that a refused entry puts back.
     const QString& ancien() const { return ancien_; }
+    // The check that leaving the box runs, now (Enter in a box).
+    void verifie();
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evt) override;
 
 private:
-    void verifie();
 
     QLineEdit* champ_;
     Dialogues& dialogues_;

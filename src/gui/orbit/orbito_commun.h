@@ -1,0 +1,45 @@
+// Helpers the three pages of orbito_conf share.
+#pragma once
+#include <QLineEdit>
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <span>
+#include <string_view>
+
+#include "core/orbit/saisie_orbite.h"
+
+#include "core/shell/format_image.h"
+#include "shell/saisie.h"
+
+namespace kestrel::gui {
+
+// The box applies its entry when it loses the focus and at once on Enter.
+inline ControleSaisie* saisie_sur_sortie_et_entree(QLineEdit* champ, Dialogues& dialogues, Verification verif) {
+    ControleSaisie* c = surveille(champ, dialogues, std::move(verif));
+    QObject::connect(champ, &QLineEdit::returnPressed, c, [c] { c->verifie(); });
+    return c;
+}
+
+// The boxes of a table on a page: a text that is a number goes to applique
+// (box index, value), which stores it and shows the page again; any other
+// text is refused with the type message.
+inline void branche_cases(QWidget* page, Dialogues& dialogues, std::span<const CaseSaisie> cases,
+                          std::function<void(std::size_t, double)> applique) {
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        auto* champ = page->findChild<QLineEdit*>(QString::fromUtf8(cases[i].nom));
+        saisie_sur_sortie_et_entree(champ, dialogues, [applique, i](const QString& texte) {
+            double x = 0;
+            const Verdict v = verif_double(texte.toStdString(), x);
+            if (v.ok) applique(i, x);
+            return v;
+        });
+    }
+}
+
+// x through a number picture, for a box or a label.
+inline QString texte_image(double x, std::string_view image) {
+    return QString::fromStdString(format_image(x, image));
+}
+
+}  // namespace kestrel::gui

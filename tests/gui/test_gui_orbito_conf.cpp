@@ -1,0 +1,370 @@
+// orbito_conf driven by its object names: the orbit boxes and what they
+// show, the .orb file through the dialogs, the pointing, the Earth's monthly
+// radiation and its chart, the menu entries that open it, and Qt's own words
+// in French.
+#include <QtTest>
+#include <QtWidgets>
+#include <QtCharts>
+#include <memory>
+
+#include "core/etat.h"
+#include "core/project/projet.h"
+#include "faux_dialogues.h"
+#include "orbit/orbito_conf.h"
+#include "shell/menu.h"
+#include "shell/traduction.h"
+
+using kestrel::Etat;
+using kestrel::Icone;
+using kestrel::gui::menu;
+using kestrel::gui::orbito_conf;
+
+namespace {
+
+struct Banc {
+    Etat etat;
+    FauxDialogues dlg;
+    std::unique_ptr<menu> principal;
+    orbito_conf* fen = nullptr;
+    QTemporaryDir tmp;
+
+    // The window as the main window opens it, from its menu entry.
+    Banc() : principal(std::make_unique<menu>(etat, dlg)) {
+        principal->findChild<QAction*>("mn_sim_car")->trigger();
+        fen = principal->findChild<orbito_conf*>();
+        if (!fen) qFatal("orbito_conf not opened");
+    }
+    template <class T = QLineEdit>
+    T* ctrl(const char* nom) {
+        T* c = fen->findChild<T*>(QString::fromUtf8(nom));
+        if (!c) qFatal("control %s not found", nom);
+        return c;
+    }
+    QString texte(const char* nom) {
+        if (auto* l = fen->findChild<QLabel*>(nom)) return l->text();
+        return ctrl(nom)->text();
+    }
+    // Typing a value, then leaving the box (or pressing Enter).
+    void saisit(QLineEdit* champ, const QString& valeur, bool entree = false) {
+        champ->setFocus();
+        QFocusEvent entree_focus(QEvent::FocusIn, Qt::TabFocusReason);
+        QApplication::sendEvent(champ, &entree_focus);
+        champ->setText(valeur);
+        if (entree) {
+            QTest::keyClick(champ, Qt::Key_Return);
+        } else {
+            QFocusEvent sortie(QEvent::FocusOut, Qt::TabFocusReason);
+            QApplication::sendEvent(champ, &sortie);
+        }
+    }
+    void saisit(const char* nom, const QString& valeur, bool entree = false) { saisit(ctrl(nom), valeur, entree); }
+    QLineEdit* flux(int element) { return fen->findChildren<QLineEdit*>("env_txt_flux").at(element); }
+    QString fichier(const char* nom) const { return tmp.filePath(nom); }
+};
+
+}  // namespace
+
+class TestOrbitoConf : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() {
+        // The window's picture of each page, kept in artefacts/ beside bin/.
+        QVERIFY(QDir().mkpath(QCoreApplication::applicationDirPath() + "/../artefacts"));
+    }
+    void ouverture_par_les_entrees_et_les_touches();
+    void boites_de_l_orbite();
+    void fichier_orb_par_les_dialogues();
+    void pointage();
+    void environnement();
+    void projet_rouvert_recharge_la_page();
+    void mots_de_qt_en_francais();
+};
+
+void TestOrbitoConf::ouverture_par_les_entrees_et_les_touches() {
+    Banc b;
+    auto* onglets = b.ctrl<QTabWidget>("Onglet_orbite");
+    QCOMPARE(b.fen->windowTitle(), "Caractéristiques orbitales");
+    QVERIFY(b.fen->isVisible());
+    QCOMPARE(onglets->currentIndex(), 0);
+    // The environment keys open the same window at its third page; the orbit keys go back.
+    const struct { const char* barre; const char* cle; int page; } cas[] = {
+        {"Toolbar_orb", "envir", 2}, {"Toolbar_orb", "orbite", 0}, {"Toolbar_power", "rad", 2}, {"Toolbar_power", "orb", 0}};
+    for (const auto& c : cas) {
+        b.principal->Toolbar_ButtonClick(c.barre, c.cle);
+        QCOMPARE(onglets->currentIndex(), c.page);
+    }
+    b.principal->findChild<QAction*>("mn_conf_pow_rad")->trigger();
+    QCOMPARE(onglets->currentIndex(), 2);
+    QCOMPARE(b.principal->findChildren<orbito_conf*>().size(), 1);
+    QCOMPARE(b.etat.session.config_modifiee, int16_t{0});  // opening is no edit
+
+    // orb_quit hides the window, which keeps its page and its state.
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_quit"), Qt::LeftButton);
+    QVERIFY(!b.fen->isVisible());
+    b.principal->findChild<QAction*>("mn_sim_car")->trigger();
+    QVERIFY(b.fen->isVisible());
+
+    // A picture of each page for a look.
+    const QString dossier = QCoreApplication::applicationDirPath() + "/../artefacts/";
+    for (int p = 0; p < 3; ++p) {
+        onglets->setCurrentIndex(p);
+        QVERIFY(b.fen->grab().save(dossier + QString("orbito_conf_%1.png").arg(p)));
+    }
+}
+
+void TestOrbitoConf::boites_de_l_orbite() {
+    Banc b;
+    // The defaults, each through its picture: 15 rev/day, 2001 day 80.55001, a = 7174 km.
+    QCOMPARE(b.texte("norad_moy_mvt"), "15.0000000000");
+    QCOMPARE(b.texte("norad_an"), "2001");
+    QCOMPARE(b.texte("norad_jour"), "80.5500");
+    QCOMPARE(b.texte("norad_excentricite"), "0.0000000000");
+    QCOMPARE(b.texte("orbite_nom"), "sans_nom");
+    // 2001 is no leap year: day 80 is 21 March, .55001 day = 13:12:00.9.
+    QCOMPARE(b.texte("lab_epoque"), "21/03/2001 13:12:00");
+    QCOMPARE(b.texte("lab_periode"), "01:36:00");  // 1/15 day
+    for (const auto& [nom, texte] : {std::pair{"lbl_ascension", "Asc. dr. noeud ascendant "},
+                                     {"lbl_moy_mvt", "Moyen mouvement "}, {"lbl_unite_moy_mvt", "Rév/jour"},
+                                     {"lbl_unite_demi", "kms"}, {"z_apogee", "Apogée : "}, {"z_perigee", "Périgée : "}})
+        QCOMPARE(b.texte(nom), QString::fromUtf8(texte));
+
+    // Out of range: corrected without a word. Leaving the box or Enter alike.
+    b.saisit("norad_ascension", "400");
+    QCOMPARE(b.texte("norad_ascension"), "360.0000000000");
+    QCOMPARE(b.etat.orbite.orb_ascension, 360.0);
+    QCOMPARE(b.etat.session.config_modifiee, int16_t{1});
+    b.saisit("norad_an", "2005.7", true);
+    QCOMPARE(b.texte("norad_an"), "2005");
+    QCOMPARE(b.etat.orbite.orb_an, int16_t{2005});
+    QVERIFY(b.dlg.messages.isEmpty());
+
+    // 15 rev/day: a = cbrt(398601.3 / n^2), n = 2 pi 15 / 86400 rad/s: 6945.04 km.
+    b.saisit("norad_moy_mvt", "15", true);
+    QVERIFY(std::abs(b.texte("norad_demi").toDouble() - 6945.04) < 0.01);
+    b.saisit("norad_demi", "7200");
+    QVERIFY(b.texte("norad_moy_mvt") != "15.0000000000");
+    b.saisit("norad_demi", "6945.038329945795");
+    QCOMPARE(b.texte("norad_moy_mvt"), "15.0000000000");
+
+    // Circular: both altitudes (6945.038 - 6378.137 = 566.90 km); e = 0.1:
+    // 1.1 * 6945.038 - 6378.137 = 1261.41 and 0.9 * 6945.038 - 6378.137 = -127.60.
+    QCOMPARE(b.texte("lab_apogee"), b.texte("lab_perigee"));
+    QVERIFY(b.texte("lab_apogee").startsWith("566.90"));
+    b.saisit("norad_excentricite", "0.1", true);
+    QVERIFY(b.texte("lab_apogee").startsWith("1261.40"));
+    QVERIFY(b.texte("lab_perigee").startsWith("-127.60"));
+
+    // Not a number: the type message, the box as it was, the record too.
+    b.saisit("norad_inclinaison", "douze");
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].texte, "Type de donnée non valide");
+    QCOMPARE(b.texte("norad_inclinaison"), "0.0000000000");
+    QCOMPARE(b.etat.orbite.orb_inclinaison, 0.0);
+}
+
+void TestOrbitoConf::fichier_orb_par_les_dialogues() {
+    Banc b;
+    b.ctrl("orbite_nom")->setText("  heliosynchrone ");
+    b.saisit("norad_inclinaison", "98.2");
+    const QString chemin = b.fichier("hs.orb");
+    b.dlg.chemins = {chemin};
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_enre"), Qt::LeftButton);
+    QCOMPARE(b.dlg.demandes.size(), 1);
+    const auto& enre = b.dlg.demandes[0];
+    QCOMPARE(enre.filtre, "Orbites Meridan (*.orb)");
+    QCOMPARE(enre.nom, "heliosynchrone.orb");
+    QCOMPARE(enre.extension, "orb");
+    QCOMPARE(enre.dossier, QCoreApplication::applicationDirPath());
+    QCOMPARE(QFileInfo(chemin).size(), 128);
+    QCOMPARE(b.texte("orbite_nom"), "hs");
+
+    // Another orbit in memory, then the file back: every box as saved.
+    b.saisit("norad_inclinaison", "10");
+    b.saisit("norad_moy_mvt", "14");
+    b.dlg.chemins = {chemin};
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_ouvr"), Qt::LeftButton);
+    const auto& ouvr = b.dlg.demandes[1];
+    QCOMPARE(ouvr.filtre, "Orbites (*.orb)");
+    QCOMPARE(ouvr.nom, "*.orb");
+    QCOMPARE(ouvr.dossier, QCoreApplication::applicationDirPath());
+    QCOMPARE(b.texte("norad_inclinaison"), "98.2000000000");
+    QCOMPARE(b.texte("norad_moy_mvt"), "15.0000000000");
+    QCOMPARE(b.etat.orbite.orb_demi, 7174.0);  // the pair as stored, nothing recomputed
+    QCOMPARE(b.texte("orbite_nom"), "hs");
+
+    // Cancel and a missing file change nothing, without a word; a save in a
+    // folder that does not exist: the system's description in a stop box.
+    b.saisit("norad_inclinaison", "20");
+    b.dlg.chemins = {"", b.fichier("absent.orb")};
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_ouvr"), Qt::LeftButton);
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_ouvr"), Qt::LeftButton);
+    QCOMPARE(b.etat.orbite.orb_inclinaison, 20.0);
+    QVERIFY(b.dlg.messages.isEmpty());
+    b.dlg.chemins = {b.fichier("absent/x.orb")};
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_enre"), Qt::LeftButton);
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
+    QVERIFY(b.dlg.messages[0].texte.contains("x.orb"));
+    QCOMPARE(b.texte("orbite_nom"), "hs");
+}
+
+void TestOrbitoConf::pointage() {
+    Banc b;
+    b.ctrl<QTabWidget>("Onglet_orbite")->setCurrentIndex(1);
+    auto* att = b.ctrl<QRadioButton>("opt_att");
+    auto* iner = b.ctrl<QRadioButton>("opt_iner");
+    QVERIFY(att->isChecked() && b.ctrl("txt_attx")->isEnabled() && !b.ctrl("txt_inerx")->isEnabled());
+
+    b.saisit("txt_atty", "100", true);  // -90..90
+    QCOMPARE(b.texte("txt_atty"), "90.00");
+    QCOMPARE(b.etat.pointage.att_tangage, 90.0);
+
+    iner->setChecked(true);
+    QVERIFY(!b.ctrl("txt_attx")->isEnabled() && b.ctrl("txt_inerz")->isEnabled());
+    QCOMPARE(b.etat.pointage.pointage_orbital, int16_t{0});
+    // Default orbit at its epoch, u = 0: a yaw of 30 deg alone comes back as
+    // roll 90, first turn -30, third 90 (hand product R3(30) times the axis
+    // cycle), shown x = element 0, y = element 2, z = element 1.
+    b.saisit("txt_inerz", "30");
+    QCOMPARE(b.texte("txt_attx"), "90.00");
+    QCOMPARE(b.texte("txt_atty"), "90.00");
+    QCOMPARE(b.texte("txt_attz"), "-30.00");
+    QVERIFY(std::abs(b.etat.pointage.att_inertiel[2] - 30.0 * 3.14159265358979 / 180.0) < 1e-15);
+
+    // The Sun pointing fails as it stands: a French message, no crash, nothing changed.
+    QTest::mouseClick(b.ctrl<QPushButton>("cmd_sun"), Qt::LeftButton);
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
+    QVERIFY(b.dlg.messages[0].texte.contains("pointage_soleil"));
+    QCOMPARE(b.texte("txt_attz"), "-30.00");
+
+    // Face 1..6 in the list's order; the attitude mode keeps its last value on "-Y".
+    auto* face = b.ctrl<QComboBox>("cmb_pointage");
+    QCOMPARE(face->count(), 6);
+    face->setCurrentText("-X");
+    QCOMPARE(b.etat.pointage.face, int16_t{4});
+    QCOMPARE(b.etat.att.mode_pointage, int16_t{4});
+    face->setCurrentText("-Y");
+    QCOMPARE(b.etat.pointage.face, int16_t{5});
+    QCOMPARE(b.etat.att.mode_pointage, int16_t{4});
+
+    auto* spin = b.ctrl<QCheckBox>("Chk_spin");
+    QVERIFY(!b.ctrl("txt_vspin")->isEnabled());
+    spin->setChecked(true);
+    QCOMPARE(b.etat.pointage.spin, int16_t{-1});
+    b.saisit("txt_vspin", "-120");
+    QCOMPARE(b.texte("txt_vspin"), "-100.000");
+    b.ctrl<QComboBox>("Cmb_Spin")->setCurrentIndex(2);
+    QCOMPARE(b.etat.pointage.axe_spin, int16_t{2});
+}
+
+void TestOrbitoConf::environnement() {
+    Banc b;
+    b.principal->findChild<QAction*>("mn_conf_pow_rad")->trigger();
+    // 3.8e26 W: 1307.09 W/m² at the aphelion, 1397.67 at the perihelion.
+    QCOMPARE(b.flux(0)->text(), "1307.09");
+    QCOMPARE(b.flux(1)->text(), "1397.67");
+    QCOMPARE(b.flux(1)->property("Index").toInt(), 1);
+    auto* mois_alb = b.ctrl<QComboBox>("env_list_months_alb");
+    auto* mois_ir = b.ctrl<QComboBox>("env_list_months_ir");
+    QCOMPARE(mois_alb->count(), 12);
+    QCOMPARE(mois_ir->itemText(11), "Décembre");
+    QCOMPARE(b.texte("env_txt_albedo"), "0.38");
+    QCOMPARE(b.ctrl<QPushButton>("env_cmd_isoterre")->text(), "Modèle ISO");
+    QCOMPARE(b.ctrl<QPushButton>("env_cmd_sin")->toolTip(),
+             "Fonction sinusoïdal avec une variation autour le mois choisi");
+
+    // The minimum cannot pass the maximum; a good maximum moves both.
+    b.saisit(b.flux(0), "1400");
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.flux(0)->text(), "1307.09");
+    b.saisit(b.flux(1), "1400", true);  // minimum 1400 (147090267 / 152101686)^2 = 1309.27
+    QCOMPARE(b.flux(0)->text(), "1309.27");
+    QCOMPARE(b.flux(1)->text(), "1400.00");
+    b.saisit(b.flux(1), "1397.6739143085495");
+
+    // Isothermal Earth: (1 - 0.38) flux / 4, from 202.70 (July) to 216.50 (January).
+    QTest::mouseClick(b.ctrl<QPushButton>("env_cmd_isoterre"), Qt::LeftButton);
+    QCOMPARE(b.texte("env_txt_ir"), "216.50");
+    mois_ir->setCurrentIndex(6);
+    QCOMPARE(b.texte("env_txt_ir"), "202.70");
+    for (float ir : b.etat.pwr.earth_ir) QVERIFY(ir > 202.5f && ir < 217.0f);
+
+    // Sine around the month chosen: the amplitude limits, then zero amplitude.
+    const struct { const char* base; const char* var; bool ok; } cas[] = {
+        {"0.6", "0.41", false}, {"0.3", "0.31", false}, {"0.6", "0.4", true}, {"0.45", "0", true}};
+    mois_alb->setCurrentIndex(3);
+    int refus = b.dlg.messages.size();
+    for (const auto& c : cas) {
+        b.saisit("env_txt_albedo", c.base);
+        b.ctrl("env_txt_var")->setText(c.var);
+        QTest::mouseClick(b.ctrl<QPushButton>("env_cmd_sin"), Qt::LeftButton);
+        refus += c.ok ? 0 : 1;
+        QCOMPARE(b.dlg.messages.size(), refus);
+    }
+    QCOMPARE(b.dlg.messages[1].texte, "Valeur excessive !! Saisissez une valeur <= 0.4");
+    QCOMPARE(b.dlg.messages[2].texte, "Valeur excessive !! Saisissez une valeur <= 0.3");
+    for (float a : b.etat.pwr.albedo) QCOMPARE(a, 0.45f);
+
+    // Albedo out of 0..1 and a negative infrared: refused, old text back.
+    b.saisit("env_txt_albedo", "1.5");
+    QCOMPARE(b.texte("env_txt_albedo"), "0.45");
+    b.saisit("env_txt_ir", "-3");
+    QCOMPARE(b.texte("env_txt_ir"), "202.70");
+    QCOMPARE(b.dlg.messages.size(), 5);
+    b.saisit("env_txt_ir", "250");
+    QCOMPARE(b.etat.pwr.earth_ir[6], 250.0f);
+    QCOMPARE(b.etat.session.config_modifiee, int16_t{1});
+
+    // The chart: twelve months, three curves, the units on the axes.
+    auto* vue = b.ctrl<QChartView>("env_graph1");
+    const auto series = vue->chart()->series();
+    QCOMPARE(series.size(), 3);
+    for (auto* s : series) QCOMPARE(static_cast<QLineSeries*>(s)->count(), 12);
+    auto* ir = static_cast<QLineSeries*>(series[1]);
+    QCOMPARE(ir->at(6).y(), 250.0);
+    auto* mois = qobject_cast<QBarCategoryAxis*>(vue->chart()->axes(Qt::Horizontal).at(0));
+    QVERIFY(mois);
+    QCOMPARE(mois->count(), 12);
+    QCOMPARE(mois->at(1), "Févr.");
+    QCOMPARE(mois->at(6), "Juil.");  // not the same as June
+    auto* gauche = qobject_cast<QValueAxis*>(vue->chart()->axes(Qt::Vertical).at(0));
+    QCOMPARE(gauche->max(), 1500.0);
+    QVERIFY(gauche->titleText().contains("W/m²"));
+}
+
+void TestOrbitoConf::projet_rouvert_recharge_la_page() {
+    // An edit saved with the power project comes back when it is reopened.
+    Banc b;
+    b.principal->findChild<QAction*>("mn_conf_pow_rad")->trigger();
+    b.saisit("env_txt_albedo", "0.3");
+    b.ctrl("env_txt_var")->setText("0.2");
+    QTest::mouseClick(b.ctrl<QPushButton>("env_cmd_sin"), Qt::LeftButton);
+    b.saisit(b.flux(1), "1400");
+    const QString pwr = b.fichier("env.pwr");
+    b.dlg.chemins = {pwr};
+    b.principal->findChild<QAction*>("mn_fichier_enregsous")->trigger();
+
+    b.etat.pwr = kestrel::PowerRecord();  // another project in memory
+    b.ctrl<QComboBox>("env_list_months_alb")->setCurrentIndex(3);
+    b.dlg.chemins = {pwr};
+    b.principal->findChild<QAction*>("mn_fichier_ouvrir")->trigger();
+    QVERIFY(b.dlg.messages.isEmpty());
+    // January again; 0.3 + 0.2 sin(90) = 0.5 in April.
+    QCOMPARE(b.ctrl<QComboBox>("env_list_months_alb")->currentIndex(), 0);
+    QCOMPARE(b.texte("env_txt_albedo"), "0.30");
+    QCOMPARE(b.etat.pwr.albedo[3], 0.5f);
+    // The file keeps the luminosity to five digits: 1400 within 0.01.
+    QVERIFY(std::abs(b.flux(1)->text().toDouble() - 1400.0) <= 0.011);
+}
+
+void TestOrbitoConf::mots_de_qt_en_francais() {
+    QVERIFY(kestrel::gui::installe_traduction_qt(*QCoreApplication::instance()));
+    QDialogButtonBox boutons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Save);
+    QCOMPARE(boutons.button(QDialogButtonBox::Cancel)->text(), "Annuler");
+    QCOMPARE(boutons.button(QDialogButtonBox::Save)->text(), "Enregistrer");
+    QCOMPARE(QLocale().monthName(3), "mars");
+}
+
+QTEST_MAIN(TestOrbitoConf)
+#include "test_gui_orbito_conf.moc"
