@@ -2,6 +2,7 @@
 
 #include "orbit/orbito_conf.h"
 #include "power/power_exp_bat.h"
+#include "power/power_exp_pan.h"
 #include "shell/menu.h"
 
 namespace kestrel::gui {
@@ -13,6 +14,7 @@ void branche_fenetres(menu& m) {
     m.branche("mn_exp_pow_bat", [&m] { ouvre_power_exp_bat(m); });
     m.branche("mn_sim_car", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_orbite); });
     m.branche("mn_conf_pow_rad", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_environnement); });
+    m.branche("mn_sim_pow_gs", [&m] { ouvre_power_exp_pan(m); });
 }
 
 }  // namespace kestrel::gui
