@@ -1,5 +1,6 @@
 #include "shell/fenetres.h"
 
+#include "attitude/att_conf.h"
 #include "orbit/orbito_conf.h"
 #include "power/power_exp_bat.h"
 #include "power/power_exp_pan.h"
@@ -15,6 +16,10 @@ void branche_fenetres(menu& m) {
     m.branche("mn_sim_car", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_orbite); });
     m.branche("mn_conf_pow_rad", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_environnement); });
     m.branche("mn_sim_pow_gs", [&m] { ouvre_power_exp_pan(m); });
+    m.branche("mn_conf_att_masses", [&m] { ouvre_att_conf(m, att_conf::onglet_masses); });
+    m.branche("mn_conf_att_prop", [&m] { ouvre_att_conf(m, att_conf::onglet_proprietes); });
+    m.branche("mn_conf_att_act", [&m] { ouvre_att_conf(m, att_conf::onglet_actionneurs); });
+    m.branche("mn_conf_att_gest", [&m] { ouvre_att_conf(m, att_conf::onglet_gestion); });
 }
 
 }  // namespace kestrel::gui
