@@ -116,6 +116,16 @@ void TestPowerExpBat::boxes_refuse_bad_values() {
     QCOMPARE(b.dlg.messages.size(), avant);
     QCOMPARE(b.fen->entrees().k_recharge, 1.0);
     QCOMPARE(b.fen->entrees().temperature, -50.0);
+    // "Saisir" reads every box again, even one that never lost the focus.
+    b.txt("txt_chcour")->setText("abc");
+    b.ctrl<QPushButton>("cmd_saisir")->click();
+    QCOMPARE(b.dlg.messages.last(), invalide);
+    QVERIFY(b.lab("lab_dod").isEmpty());
+    b.txt("txt_chcour")->setText("0.25");
+    b.txt("txt_tchde")->setText("20");  // at -50 °C the charge curve stands above 1.5 V
+    b.ctrl<QPushButton>("cmd_saisir")->click();
+    QCOMPARE(b.fen->entrees().i_charge, 0.25);
+    QVERIFY(!b.lab("lab_tch").isEmpty());
 }
 
 void TestPowerExpBat::discharge_then_recharge() {

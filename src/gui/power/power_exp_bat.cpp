@@ -64,21 +64,36 @@ bool power_exp_bat::eventFilter(QObject* objet, QEvent* evt) {
 power_exp_bat::~power_exp_bat() = default;
 
 void power_exp_bat::surveille_champs() {
-    surveille(ui_->txt_tecl, dialogues_, borne(entrees_.duree_eclipse, BORNE_ECLIPSE));
     // The lower limit of the temperature is the laws' own, read at each entry.
-    surveille(ui_->txt_tchde, dialogues_, [this](const QString& t) {
+    auto temperature = [this](const QString& t) {
         BorneEntree b = BORNE_TEMPERATURE;
         b.min = etat_.pwr.bat_tmin;
         return borne(entrees_.temperature, b)(t);
-    });
-    surveille(ui_->txt_chk, dialogues_, borne(entrees_.k_recharge, BORNE_K));
-    surveille(ui_->txt_chvmax, dialogues_, borne(entrees_.v_max, BORNE_VMAX));
-    surveille(ui_->txt_chcour, dialogues_, borne(entrees_.i_charge, BORNE_COURANT));
-    surveille(ui_->txt_depuis, dialogues_, borne(entrees_.puissance, BORNE_PUISSANCE));
-    surveille(ui_->txt_decour, dialogues_, borne(entrees_.i_decharge, BORNE_COURANT));
-    // Return moves on to the next box, as a tab would.
-    for (QLineEdit* champ : findChildren<QLineEdit*>())
+    };
+    champs_ = {{ui_->txt_tecl, borne(entrees_.duree_eclipse, BORNE_ECLIPSE)},
+               {ui_->txt_tchde, temperature},
+               {ui_->txt_chk, borne(entrees_.k_recharge, BORNE_K)},
+               {ui_->txt_chvmax, borne(entrees_.v_max, BORNE_VMAX)},
+               {ui_->txt_chcour, borne(entrees_.i_charge, BORNE_COURANT)},
+               {ui_->txt_depuis, borne(entrees_.puissance, BORNE_PUISSANCE)},
+               {ui_->txt_decour, borne(entrees_.i_decharge, BORNE_COURANT)}};
+    for (const auto& [champ, verif] : champs_) {
+        surveille(champ, dialogues_, verif);
+        // Return moves on to the next box, as a tab would.
         connect(champ, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
+    }
+}
+
+bool power_exp_bat::lit_champs() {
+    for (const auto& [champ, verif] : champs_) {
+        const Verdict v = verif(champ->text());
+        if (!v.ok) {
+            dialogues_.message(this, QString::fromStdString(v.message), v.icone);
+            champ->setFocus(Qt::OtherFocusReason);
+            return false;
+        }
+    }
+    return true;
 }
 
 void power_exp_bat::progression(const ProgressionBatterie& p) {
@@ -94,7 +109,7 @@ void power_exp_bat::progression(const ProgressionBatterie& p) {
 }
 
 void power_exp_bat::cmd_saisir_Click() {
-    if (en_cours_) return;
+    if (en_cours_ || !lit_champs()) return;
     if (const Verdict v = verifie_entrees(etat_.pwr, entrees_); !v.ok) {
         dialogues_.message(this, QString::fromStdString(v.message), v.icone);
         return;

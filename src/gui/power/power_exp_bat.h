@@ -6,8 +6,11 @@
 #include <QElapsedTimer>
 #include <QWidget>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "core/power/etude_batterie.h"
+#include "shell/saisie.h"
 
 namespace Ui {
 class power_exp_bat;
@@ -42,6 +45,8 @@ protected:
 
 private:
     void surveille_champs();
+    // Every box read again through its check; false at the first refusal.
+    bool lit_champs();
     void progression(const ProgressionBatterie& p);
 
     Etat& etat_;
@@ -49,6 +54,7 @@ private:
     std::unique_ptr<Ui::power_exp_bat> ui_;
     GraphesBatterie* pict_graphs_ = nullptr;
     EntreesBatterie entrees_;
+    std::vector<std::pair<QLineEdit*, Verification>> champs_;  // boxes and their checks
     bool stop_ = false;
     bool en_cours_ = false;
     QElapsedTimer pause_;  // since the events were last served

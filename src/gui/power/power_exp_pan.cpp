@@ -48,6 +48,7 @@ power_exp_pan::power_exp_pan(Etat& etat, Dialogues& dialogues, QWidget* parent)
     modele_ = new ModeleTextes(this);
     ui_->grid->setModel(modele_);
     ui_->grid->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    ui_->grid->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     pict_graph_ = new ImageDessin();
     pict_graph_->setObjectName(QStringLiteral("pict_graph"));
     ui_->z_graphe->insertWidget(1, pict_graph_);
@@ -120,8 +121,10 @@ void power_exp_pan::trace() {
     if (ech.max == ech.min) ech.max = ech.min + 1;  // all zero: still show the axes
     e.lim_max = ech.max;
     e.lim_min = ech.min;
+    // The dates under the axis span the rows drawn: a stopped run ends early.
     e.debut = debut_;
-    e.fin = fin_ > debut_ ? fin_ : debut_ + 1;
+    e.fin = r_.dates.empty() ? fin_ : r_.dates.back();
+    if (!(e.fin > e.debut)) e.fin = e.debut + pas_ / 86400.0;
     pict_graph_->montre(t.lignes() ? trace_graph(e) : std::nullopt);
     QStringList u_textes;
     for (const auto& x : unites) u_textes << u(x);
@@ -162,6 +165,10 @@ void power_exp_pan::cmd_saisir_Click() {
     ui_->cmd_saisir->setEnabled(true);
     ui_->cmd_stopcalcul->setEnabled(false);
     ui_->cmd_save->setEnabled(!r_.dates.empty());
+    if (!r_.arrete && !r_.faute) {  // the last date may stop a hair short of the end
+        ui_->statusbar->setValue(ui_->statusbar->maximum());
+        ui_->lab_status->setText(QStringLiteral("100.0 %"));
+    }
     montre_faces();
     affiche();
     if (r_.alerte_charge) dialogues_.message(this, QString::fromUtf8(msg::incompat_charge), Icone::critique);
