@@ -57,7 +57,7 @@ std::optional<double> lit_date(const std::string& texte) {
 }
 
 int prepare_etat(const OptionsCommunes& o, Etat& etat) {
-    etat.session.dossier_depart = dossier_executable();
+    etat.session.dossier_depart = dossier_donnees(dossier_executable());
     auto echec = [](const Erreur& e, const std::string& chemin) {
         std::cerr << "kestrel: " << chemin << ": " << texte_erreur(e) << "\n";
         return SORTIE_ECHEC;
@@ -112,13 +112,6 @@ Sortie::Sortie(const std::string& chemin) {
         fichier_.open(chemin, std::ios::binary);
         ok_ = fichier_.is_open();
     }
-}
-
-std::string dossier_executable() {
-    std::error_code ec;
-    auto p = std::filesystem::read_symlink("/proc/self/exe", ec);
-    if (ec) return std::filesystem::current_path().string();
-    return p.parent_path().string();
 }
 
 }  // namespace kestrel::cli

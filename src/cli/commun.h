@@ -10,6 +10,7 @@
 #include <string>
 
 #include "core/etat.h"
+#include "core/shell/dossiers.h"
 
 namespace kestrel::cli {
 
@@ -61,8 +62,5 @@ private:
     std::ofstream fichier_;
     bool ok_ = true;
 };
-
-// Folder of the running executable (dossier_depart).
-std::string dossier_executable();
 
 }  // namespace kestrel::cli

@@ -8,6 +8,7 @@ int main(int argc, char** argv) {
     using namespace kestrel::cli;
     CLI::App app{"KESTREL - small-satellite simulator, command line.\n"
                  "Runs the orbit, power and attitude models over a period and writes CSV."};
+    app.set_version_flag("--version", std::string("kestrel ") + KESTREL_VERSION);
     app.require_subcommand(1);
     std::vector<Commande> commandes{enregistre_orbit(app), enregistre_project(app),
                                     enregistre_power(app), enregistre_attitude(app),
@@ -17,6 +18,8 @@ int main(int argc, char** argv) {
     } catch (const CLI::CallForHelp& e) {
         return app.exit(e);
     } catch (const CLI::CallForAllHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::CallForVersion& e) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
         std::string m = e.what();

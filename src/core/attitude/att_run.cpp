@@ -10,6 +10,7 @@
 #include "core/attitude/atmosphere.h"
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
+#include "core/shell/dossiers.h"
 #include "core/etat.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"
@@ -147,7 +148,7 @@ bool dossier_inscriptible(const fs::path& d) {
 
 std::string chemin_resultats(const std::string& dossier_depart) {
     fs::path d = fs::path(dossier_depart.empty() ? "." : dossier_depart) / "temp";
-    if (dossier_inscriptible(d)) return (d / "temp.tmp").string();
+    if (!dossier_installe(dossier_depart) && dossier_inscriptible(d)) return (d / "temp.tmp").string();
     fs::path base;
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x)
         base = x;

@@ -32,8 +32,9 @@ struct BilanRun {
 };
 
 // dossier_depart/temp/temp.tmp (temp/ created when missing); when that folder
-// cannot be written, the per-user data folder ($XDG_DATA_HOME or
-// ~/.local/share)/kestrel/temp/temp.tmp. Empty when neither can be made.
+// cannot be written, or is an installed data folder (…/share/kestrel), the
+// per-user data folder ($XDG_DATA_HOME or ~/.local/share)/kestrel/temp/temp.tmp.
+// Empty when neither can be made.
 std::string chemin_resultats(const std::string& dossier_depart);
 
 // From session.j_debut to session.j_fin by session.pas_sim seconds. Stops at

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "core/shell/calendrier.h"
+#include "core/shell/dossiers.h"
 #include "core/shell/messages.h"
 
 namespace kestrel {
@@ -42,7 +43,8 @@ std::string texte_erreur(const Erreur& e) {
         case CodeErreur::fichier_orbite:
             return e.detail;
         case CodeErreur::fichier_donnees:
-            return fmt::format("Fichier de données introuvable ou illisible : {}", e.detail);
+            return fmt::format("Fichier de données introuvable ou illisible : {} (dossiers cherchés : {})",
+                               e.detail, liste_dossiers_cherches());
         case CodeErreur::ecriture_resultats:
             return fmt::format("Impossible d'écrire le fichier de résultats : {}", e.detail);
         case CodeErreur::non_convergence:

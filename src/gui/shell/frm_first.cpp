@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "core/shell/dossiers.h"
 #include "shell/menu.h"
 
 namespace kestrel::gui {
@@ -51,7 +52,8 @@ frmFirst::frmFirst(Etat& etat, Dialogues& dialogues, QWidget* parent)
 
     auto* pict_titre = new QLabel(this);
     pict_titre->setObjectName(QStringLiteral("pict_titre"));
-    pict_titre->setPixmap(image_titre(QCoreApplication::applicationDirPath()));
+    pict_titre->setPixmap(image_titre(QString::fromStdString(
+        dossier_donnees(QCoreApplication::applicationDirPath().toStdString()))));
 
     auto* cmdOK = new QPushButton(QStringLiteral("OK"), this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));

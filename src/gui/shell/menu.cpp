@@ -22,6 +22,7 @@
 #include "core/etat.h"
 #include "core/project/projet.h"
 #include "core/shell/calendrier.h"
+#include "core/shell/dossiers.h"
 #include "core/shell/messages.h"
 #include "shell/dialogues.h"
 #include "shell/fenetres.h"
@@ -190,7 +191,9 @@ menu::menu(Etat& etat, Dialogues& dialogues, QWidget* parent)
     // A new session: every record at its defaults, the default period from
     // the orbit epoch to one orbital period later.
     etat_ = Etat();
-    etat_.session.dossier_depart = QCoreApplication::applicationDirPath().toStdString();
+    // The data stand beside the program in a build tree, in share/kestrel once installed.
+    etat_.session.dossier_depart =
+        dossier_donnees(QCoreApplication::applicationDirPath().toStdString());
 
     construit_menus();
     construit_barres();

@@ -153,6 +153,16 @@ TEST(AttRun, CheminParDefautDansTemp) {
     fs::create_directories(d);
     EXPECT_EQ(chemin_resultats(d.string()), (d / "temp" / "temp.tmp").string());
     EXPECT_TRUE(fs::is_directory(d / "temp"));
+    // an installed data folder is never written, even when it could be (root):
+    // the results go to $XDG_DATA_HOME/kestrel/temp
+    const fs::path installe = d / "share" / "kestrel";
+    fs::create_directories(installe);
+    const char* ancien = std::getenv("XDG_DATA_HOME");
+    const std::string sauve = ancien ? ancien : "";
+    ::setenv("XDG_DATA_HOME", (d / "donnees").c_str(), 1);
+    EXPECT_EQ(chemin_resultats(installe.string()), (d / "donnees" / "kestrel" / "temp" / "temp.tmp").string());
+    EXPECT_FALSE(fs::exists(installe / "temp"));
+    if (ancien) ::setenv("XDG_DATA_HOME", sauve.c_str(), 1); else ::unsetenv("XDG_DATA_HOME");
     fs::remove_all(d);
 }
 
