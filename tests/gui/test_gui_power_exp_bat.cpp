@@ -91,12 +91,15 @@ void TestPowerExpBat::captions_and_menu_entry() {
     b.txt("txt_tecl")->setFocus();
     QTest::keyClick(b.txt("txt_tecl"), Qt::Key_Return);
     QVERIFY(b.txt("txt_tchde")->hasFocus());
-    // The entry opens the same window again.
-    b.ctrl<QPushButton>("cmd_quit")->click();
-    QVERIFY(!b.fen->isVisible());
-    b.m->findChild<QAction*>("mn_exp_pow_bat")->trigger();
-    QCOMPARE(b.m->findChildren<power_exp_bat*>().size(), 1);
-    QVERIFY(b.fen->isVisible());
+    // The entry and the toolbar key open the same window again.
+    for (auto rouvre : {std::function<void()>([&] { b.m->findChild<QAction*>("mn_exp_pow_bat")->trigger(); }),
+                        std::function<void()>([&] { b.m->Toolbar_ButtonClick("Toolbar_power", "exp_bat"); })}) {
+        b.ctrl<QPushButton>("cmd_quit")->click();
+        QVERIFY(!b.fen->isVisible());
+        rouvre();
+        QCOMPARE(b.m->findChildren<power_exp_bat*>().size(), 1);
+        QVERIFY(b.fen->isVisible());
+    }
 }
 
 void TestPowerExpBat::boxes_refuse_bad_values() {

@@ -104,6 +104,13 @@ void TestPowerExpPan::captions_and_the_date_test() {
     QCOMPARE(b.dlg.messages, (QList<Message>{{QString::fromUtf8(kestrel::msg::date_cellules), Icone::avertissement}}));
     QCOMPARE(b.grille()->rowCount(), 0);
     QVERIFY(!b.ctrl<QPushButton>("cmd_save")->isEnabled());
+
+    // "Quitter" hides it; the toolbar key "sim_pow" brings the same window back.
+    b.clique("cmd_quit");
+    QVERIFY(!b.fen->isVisible());
+    b.m->Toolbar_ButtonClick("Toolbar_power", "sim_pow");
+    QVERIFY(b.fen->isVisible());
+    QCOMPARE(b.m->findChildren<power_exp_pan*>().size(), 1);
 }
 
 void TestPowerExpPan::columns_by_configuration_and_view() {
