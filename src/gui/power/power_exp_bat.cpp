@@ -123,8 +123,10 @@ void power_exp_bat::cmd_saisir_Click() {
     ui_->statusbar->setValue(0);
     pause_.invalidate();
 
+    // The boxes stay editable while the events flow: the run keeps the values it started with.
+    const EntreesBatterie entrees = entrees_;
     ResultatBatterie r = etude_batterie(
-        etat_.pwr, entrees_, [this](const ProgressionBatterie& p) { progression(p); }, &stop_);
+        etat_.pwr, entrees, [this](const ProgressionBatterie& p) { progression(p); }, &stop_);
 
     en_cours_ = false;
     ui_->cmd_saisir->setEnabled(true);
