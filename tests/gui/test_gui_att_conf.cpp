@@ -124,6 +124,15 @@ void TestAttConf::dimensions_et_centre_de_masse() {
     b.saisit("dimens1", "1");
     QCOMPARE(b.texte("cmx"), "-0.5");
     QCOMPARE(b.a().face_c[0][0], 1.0);
+    // An entry left by a click on another tab is applied before its page hides.
+    auto* champ = b.ctrl("dimens2");
+    champ->setFocus();
+    champ->selectAll();
+    QTest::keyClicks(champ, "0.3");
+    auto* barre = b.ctrl<QTabWidget>("Onglet_att")->tabBar();
+    QTest::mouseClick(barre, Qt::LeftButton, {}, barre->tabRect(2).center());
+    QCOMPARE(b.ctrl<QTabWidget>("Onglet_att")->currentIndex(), 2);
+    QCOMPARE(b.a().dim[1], 0.3);
 }
 
 void TestAttConf::bornes_de_chaque_case() {

@@ -271,8 +271,10 @@ void dessin_config::paintEvent(QPaintEvent*) {
             b[i] = e[i] * (v.demi[j] + longueur_tige * 0.75);
         }
         fleche(p, point_v(v, a), point_v(v, b));
-        const QPointF bout = point_v(v, b);
-        p.drawText(QRectF(bout + QPointF(-18, -22), QSizeF(36, 18)), Qt::AlignCenter, u(noms[j]));
+        // The axis name just beyond the arrow's head.
+        const QPointF d = point_v(v, b) - point_v(v, a);
+        const QPointF bout = point_v(v, b) + 12 * d / std::max(1.0, std::hypot(d.x(), d.y()));
+        p.drawText(QRectF(bout - QPointF(9, 9), QSizeF(18, 18)), Qt::AlignCenter, u(noms[j]));
     }
     p.setPen(encre);
     const QString taille = QString::fromStdString(format_image(att_.dim[0], "#0.00")) + u(" × ") +
