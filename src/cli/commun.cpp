@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "core/project/projet.h"
+#include "core/project/tle.h"
 #include "core/shell/calendrier.h"
 
 namespace kestrel::cli {
@@ -13,7 +14,12 @@ namespace kestrel::cli {
 void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defaut) {
     sub->add_option("--pwr", o.pwr, "power project (.pwr); default: a new project");
     sub->add_option("--att", o.att, "attitude project (.att); default: a new project");
-    sub->add_option("--orb", o.orb, "orbit file (.orb); default: the new-project orbit");
+    auto* orb = sub->add_option("--orb", o.orb, "orbit file (.orb); default: the new-project orbit");
+    sub->add_option("--tle", o.tle,
+                    "orbit from a two-line element set (.tle, .txt; an optional name line first), "
+                    "in place of --orb. TLE elements are mean elements of another theory taken here as "
+                    "Keplerian ones: positions drift from the real satellite's within hours")
+        ->excludes(orb);
     sub->add_option("--start", o.start,
                     "start date: days since 1950-01-01 or YYYY-MM-DDThh:mm:ss; default: the orbit epoch");
     sub->add_option("--end", o.end, "end date, same forms; default: one orbital period after the epoch");
@@ -64,6 +70,14 @@ int prepare_etat(const OptionsCommunes& o, Etat& etat) {
     };
     if (!o.orb.empty()) {
         if (Erreur e = charge_orbite(etat, o.orb)) return echec(e, o.orb);
+        periode_par_defaut(etat);
+    }
+    if (!o.tle.empty()) {
+        std::string nom;
+        if (FauteTle f = charge_tle(o.tle, etat.orbite, nom)) {
+            std::cerr << "kestrel: " << o.tle << ": " << texte_faute_tle(f) << "\n";
+            return SORTIE_ECHEC;
+        }
         periode_par_defaut(etat);
     }
     if (!o.pwr.empty()) {

@@ -28,12 +28,13 @@ Commande enregistre_study(CLI::App& app);
 
 struct OptionsCommunes {
     std::string pwr, att, orb;  // project files; empty: new-project defaults
+    std::string tle;            // two-line element set in place of --orb
     std::string start, end;     // day count or YYYY-MM-DDThh:mm:ss; empty: project period
     std::optional<double> step; // s; empty: project step (120 for a new project)
     std::string out;            // output file; empty: standard output
 };
 
-// Adds --pwr --att --orb --start --end --step --out to a sub-command.
+// Adds --pwr --att --orb (or --tle) --start --end --step --out to a sub-command.
 void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defaut = 120);
 
 // Exit codes of the command line.

@@ -74,6 +74,7 @@ private slots:
     void ouverture_par_les_entrees_et_les_touches();
     void boites_de_l_orbite();
     void fichier_orb_par_les_dialogues();
+    void import_tle();
     void pointage();
     void environnement();
     void projet_rouvert_recharge_la_page();
@@ -206,6 +207,48 @@ void TestOrbitoConf::fichier_orb_par_les_dialogues() {
     QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
     QVERIFY(b.dlg.messages[0].texte.contains("x.orb"));
     QCOMPARE(b.texte("orbite_nom"), "hs");
+}
+
+void TestOrbitoConf::import_tle() {
+    // The ISS, 20 September 2008 (checksums 7 and 7 by hand).
+    const QString l1 = "1 25544U 98067A   08264.51782528 -.00002182  00000-0 -11606-4 0  2927";
+    const QString l2 = "2 25544  51.6416 247.4627 0006703 130.5360 325.0288 15.72125391563537";
+    Banc b;
+    QApplication::clipboard()->setText("ISS (ZARYA)\n" + l1 + "\n" + l2 + "\n");
+    b.ctrl<QAction>("orb_tle_presse_papiers")->trigger();
+    QVERIFY(b.dlg.messages.isEmpty());
+    QCOMPARE(b.texte("orbite_nom"), "ISS (ZARYA)");
+    QCOMPARE(b.etat.session.config_modifiee, int16_t{1});
+
+    // The same values typed by hand give the same boxes, labels and record.
+    Banc t;
+    for (const auto& [nom, valeur] : {std::pair{"norad_inclinaison", "51.6416"}, {"norad_ascension", "247.4627"},
+                                      {"norad_excentricite", "0.0006703"}, {"norad_argument", "130.5360"},
+                                      {"norad_anomalie", "325.0288"}, {"norad_an", "2008"},
+                                      {"norad_jour", "264.51782528"}, {"norad_moy_mvt", "15.72125391"}})
+        t.saisit(nom, valeur);
+    for (const char* nom : {"norad_inclinaison", "norad_ascension", "norad_excentricite", "norad_argument",
+                            "norad_anomalie", "norad_moy_mvt", "norad_an", "norad_jour", "norad_demi",
+                            "lab_apogee", "lab_perigee", "lab_periode", "lab_epoque"})
+        QCOMPARE(b.texte(nom), t.texte(nom));
+    QCOMPARE(b.etat.orbite.orb_demi, t.etat.orbite.orb_demi);
+    QCOMPARE(b.texte("norad_an"), "2008");
+
+    // A wrong checksum: the message names line and column, nothing changes.
+    QString faux = l2;
+    faux[68] = '8';
+    QFile f(b.fichier("faux.tle"));
+    QVERIFY(f.open(QIODevice::WriteOnly) && f.write((l1 + "\n" + faux).toUtf8()) > 0);
+    f.close();
+    b.saisit("norad_inclinaison", "98");
+    b.dlg.chemins = {f.fileName()};
+    b.ctrl<QAction>("orb_tle_fichier")->trigger();
+    QCOMPARE(b.dlg.demandes.back().filtre, "Eléments TLE (*.tle *.txt);;All Files (*.*)");
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].texte,
+             "Erreur de lecture du TLE, ligne 2, colonne 69 : somme de contrôle 8 au lieu de 7");
+    QCOMPARE(b.texte("norad_inclinaison"), "98.0000000000");
+    QCOMPARE(b.etat.orbite.orb_an, int16_t{2008});
 }
 
 void TestOrbitoConf::pointage() {

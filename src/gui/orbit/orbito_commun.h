@@ -6,6 +6,7 @@
 #include <functional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "core/orbit/saisie_orbite.h"
 
@@ -24,17 +25,21 @@ inline ControleSaisie* saisie_sur_sortie_et_entree(QLineEdit* champ, Dialogues& 
 // The boxes of a table on a page: a text that is a number goes to applique
 // (box index, value), which stores it and shows the page again; any other
 // text is refused with the type message.
-inline void branche_cases(QWidget* page, Dialogues& dialogues, std::span<const CaseSaisie> cases,
-                          std::function<void(std::size_t, double)> applique) {
+// Returns the boxes' checks, in the table's order.
+inline std::vector<ControleSaisie*> branche_cases(QWidget* page, Dialogues& dialogues,
+                                                  std::span<const CaseSaisie> cases,
+                                                  std::function<void(std::size_t, double)> applique) {
+    std::vector<ControleSaisie*> controles;
     for (std::size_t i = 0; i < cases.size(); ++i) {
         auto* champ = page->findChild<QLineEdit*>(QString::fromUtf8(cases[i].nom));
-        saisie_sur_sortie_et_entree(champ, dialogues, [applique, i](const QString& texte) {
+        controles.push_back(saisie_sur_sortie_et_entree(champ, dialogues, [applique, i](const QString& texte) {
             double x = 0;
             const Verdict v = verif_double(texte.toStdString(), x);
             if (v.ok) applique(i, x);
             return v;
-        });
+        }));
     }
+    return controles;
 }
 
 // x through a number picture, for a box or a label.

@@ -1,11 +1,18 @@
 #include "orbit/orbito_orbite.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
 #include <QLineEdit>
+#include <QMenu>
+
+#include <fmt/format.h>
 
 #include "core/etat.h"
 #include "core/orbit/elements_orbite.h"
 #include "core/orbit/saisie_orbite.h"
 #include "core/project/projet.h"
+#include "core/project/tle.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/format_image.h"
 #include "orbit/orbito_commun.h"
@@ -20,6 +27,8 @@ constexpr const char* filtre_enre = "Orbites Meridan (*.orb)|*.orb";
 constexpr const char* filtre_ouvr = "Orbites (*.orb)|*.orb";
 constexpr const char* titre_enre = "Enregistrer l'orbite";
 constexpr const char* titre_ouvr = "Ouvrir une orbite";
+constexpr const char* filtre_tle = "Eléments TLE|*.tle *.txt|All Files (*.*)|*.*";
+constexpr const char* titre_tle = "Importer un TLE";
 }  // namespace
 
 orbito_orbite::orbito_orbite(Etat& etat, Dialogues& dialogues, QWidget* parent)
@@ -27,13 +36,21 @@ orbito_orbite::orbito_orbite(Etat& etat, Dialogues& dialogues, QWidget* parent)
     ui_->setupUi(this);
     // No range message here: borne corrects silently. Only a text that is no
     // number at all is refused.
-    branche_cases(this, dialogues_, cases_orbite, [this](std::size_t i, double x) {
+    controles_ = branche_cases(this, dialogues_, cases_orbite, [this](std::size_t i, double x) {
         saisit_orbite(etat_.orbite, i, x);
         affiche(true);
         emit orbite_modifiee();
     });
     connect(ui_->orb_enre, &QPushButton::clicked, this, [this] { orb_enre_Click(); });
     connect(ui_->orb_ouvr, &QPushButton::clicked, this, [this] { orb_ouvr_Click(); });
+    auto* tle = new QMenu(ui_->orb_tle);
+    QAction* depuis_fichier = tle->addAction(QStringLiteral("Depuis un fichier…"));
+    depuis_fichier->setObjectName(QStringLiteral("orb_tle_fichier"));
+    QAction* depuis_presse_papiers = tle->addAction(QStringLiteral("Depuis le presse-papiers"));
+    depuis_presse_papiers->setObjectName(QStringLiteral("orb_tle_presse_papiers"));
+    ui_->orb_tle->setMenu(tle);
+    connect(depuis_fichier, &QAction::triggered, this, [this] { importe_tle_fichier(); });
+    connect(depuis_presse_papiers, &QAction::triggered, this, [this] { importe_tle_presse_papiers(); });
     connect(ui_->orb_quit, &QPushButton::clicked, this, &orbito_orbite::orb_quit_Click);
     affiche(false);
 }
@@ -81,5 +98,39 @@ bool orbito_orbite::orb_ouvr_Click() {
     emit orbite_modifiee();
     return true;
 }
+
+bool orbito_orbite::importe_tle(const QString& texte) {
+    Orbite lu = etat_.orbite;
+    std::string nom;
+    if (const FauteTle f = lit_tle(texte.toStdString(), lu, nom)) {
+        dialogues_.message(this, QString::fromStdString(texte_faute_tle(f)), Icone::avertissement);
+        return false;
+    }
+    // The year and day before the mean motion, which sets the axis last.
+    for (const std::size_t i : {inclinaison, ascension, excentricite, argument, anomalie, an, jour, moy_mvt}) {
+        auto* champ = findChild<QLineEdit*>(QString::fromUtf8(cases_orbite[i].nom));
+        champ->setText(QString::fromStdString(fmt::format("{}", valeur_orbite(lu, i))));
+        controles_[i]->verifie();
+    }
+    etat_.orbite.nom = lu.nom;
+    if (!nom.empty()) ui_->orbite_nom->setText(QString::fromStdString(nom));
+    return true;
+}
+
+bool orbito_orbite::importe_tle_fichier() {
+    const DemandeFichier d{QString::fromUtf8(titre_tle), filtre_qt(QString::fromUtf8(filtre_tle)),
+                           QString::fromStdString(etat_.session.dossier_depart), QString(), QString()};
+    const QString chemin = dialogues_.ouvrir(this, d);
+    if (chemin.isEmpty()) return false;
+    QFile f(chemin);
+    if (!f.open(QIODevice::ReadOnly)) {
+        dialogues_.message(this, QStringLiteral("Fichier « %1 » introuvable ou illisible").arg(chemin),
+                           Icone::critique);
+        return false;
+    }
+    return importe_tle(QString::fromUtf8(f.readAll()));
+}
+
+bool orbito_orbite::importe_tle_presse_papiers() { return importe_tle(QApplication::clipboard()->text()); }
 
 }  // namespace kestrel::gui

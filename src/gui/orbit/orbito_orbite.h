@@ -3,6 +3,7 @@
 #pragma once
 #include <QWidget>
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class orbito_orbite;
@@ -14,6 +15,7 @@ struct Etat;
 
 namespace kestrel::gui {
 
+class ControleSaisie;
 class Dialogues;
 
 class orbito_orbite : public QWidget {
@@ -31,6 +33,14 @@ public:
     bool orb_enre_Click();
     bool orb_ouvr_Click();
 
+    // A two-line element set typed into the boxes, as a user would, in the
+    // order that lets the mean motion set the axis; its name goes to
+    // orbite_nom. A set that cannot be read: its message, nothing changed.
+    bool importe_tle(const QString& texte);
+    // The set from a .tle/.txt file chosen in a dialog, or from the clipboard.
+    bool importe_tle_fichier();
+    bool importe_tle_presse_papiers();
+
 signals:
     void orb_quit_Click();
     // The record changed (an entry or an opened file).
@@ -38,6 +48,7 @@ signals:
 
 private:
     std::unique_ptr<Ui::orbito_orbite> ui_;
+    std::vector<ControleSaisie*> controles_;  // the norad_* boxes' checks
     Etat& etat_;
     Dialogues& dialogues_;
 };
