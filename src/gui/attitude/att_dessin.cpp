@@ -138,8 +138,12 @@ private:
         const QPointF d = b - a;
         const QPointF dehors = d / std::max(1.0, std::hypot(d.x(), d.y()));
         const QPointF c = b + QPointF(dehors.x() * 48, dehors.y() * 26);
+        // Kept inside the picture when the ball is near its edge.
+        QRectF cadre(c - QPointF(40, 16), QSizeF(80, 32));
+        cadre.moveLeft(std::clamp(cadre.left(), 2.0, width() - cadre.width() - 2));
+        cadre.moveTop(std::clamp(cadre.top(), 2.0, height() - cadre.height() - 2));
         p.setPen(couleur_masse.darker(130));
-        p.drawText(QRectF(c - QPointF(40, 16), QSizeF(80, 32)), Qt::AlignCenter,
+        p.drawText(cadre, Qt::AlignCenter,
                    QString::fromStdString(format_image(att.mext[j], "#0.00")) + u(" kg\n") +
                        QString::fromStdString(format_image(std::fabs(att.dext[j]), "#0.00")) + u(" m"));
     }
@@ -193,7 +197,10 @@ private:
             p.setBrush(couleur_amortisseur);
             p.drawEllipse(ressort.last(), 4.5, 4.5);
             p.setPen(couleur_amortisseur.darker(140));
-            p.drawText(QRectF(ressort.last() + QPointF(4, -16), QSizeF(24, 14)), Qt::AlignLeft, u("A%1").arg(j + 1));
+            // The name beyond the mass, along the spring.
+            const QPointF d = ressort.last() - ressort.first();
+            const QPointF c = ressort.last() + 16 * d / std::max(1.0, std::hypot(d.x(), d.y()));
+            p.drawText(QRectF(c - QPointF(12, 7), QSizeF(24, 14)), Qt::AlignCenter, u("A%1").arg(j + 1));
         }
     }
 
@@ -232,7 +239,7 @@ void dessin_config::montre(const QString& piece, bool visible) {
 VueConfig dessin_config::vue() const {
     VueConfig v;
     v.centre = QPointF(width() * 0.5, height() * 0.48);
-    v.echelle = std::min(width() / 5.4, height() / 5.0);
+    v.echelle = std::min(width() / 4.6, height() / 4.6);
     const double plus_grand = std::max({att_.dim[0], att_.dim[1], att_.dim[2]});
     // A flat or empty body stays visible: no side under a third of the largest.
     if (plus_grand > 0)
