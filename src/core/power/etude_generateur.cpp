@@ -147,7 +147,10 @@ ResultatGenerateur etude_generateur(Etat& etat, const std::function<void(double)
     etat.faute = {};
     power_state_init(etat);
     const double debut = s.j_debut, fin = s.j_fin;
-    parcours_dates(debut, fin, s.pas_sim, [&](double j) {
+    const int32_t pas = s.pas_sim;
+    parcours_dates(debut, fin, pas, [&](double j) {
+        // The window serves events between steps: the run keeps its own step.
+        etat.session.pas_sim = pas;
         etat.session.j_courant = j;
         power_step(etat);
         if (etat.pwr.alerte_charge) r.alerte_charge = true;
