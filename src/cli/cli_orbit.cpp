@@ -1,9 +1,12 @@
 // kestrel orbit: the satellite, the Sun and the ground point at each date of
 // the period, one CSV row per date (inertial 1950 frame, km, km/s, rad).
 #include <cmath>
+#include <ctime>
+#include <vector>
 #include <string>
 
 #include "cli/commun.h"
+#include "cli/export_orbite.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"
 #include "core/shell/parcours.h"
@@ -53,6 +56,44 @@ void ecrit_ligne(std::ostream& out, double j, const SortiesOrbite& o) {
     out << l;
 }
 
+// Name of the orbit record, or the program's for an unnamed orbit.
+std::string nom_objet(const Orbite& o) {
+    std::string n(o.nom.begin(), o.nom.end());
+    n.erase(n.find_last_not_of(' ') + 1);
+    return n.empty() ? std::string("KESTREL") : n;
+}
+
+// The run kept in memory, then written as OEM or CZML (a fault writes nothing).
+int exporte(Etat& etat, const std::string& format, std::ostream& out) {
+    std::vector<PointOrbite> points;
+    parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
+        orb_position(etat, j);
+        if (!etat.faute) verifie_fini(etat, j);
+        if (etat.faute) return false;
+        points.push_back({j, etat.orb.sat_pos, etat.orb.sat_vit});
+        return true;
+    });
+    if (etat.faute) {
+        std::cerr << "kestrel: " << texte_erreur(etat.faute) << '\n';
+        return SORTIE_ECHEC;
+    }
+    const std::string objet = nom_objet(etat.orbite);
+    if (format == "oem") {
+        const std::time_t t = std::time(nullptr);
+        char maintenant[32];
+        std::strftime(maintenant, sizeof maintenant, "%Y-%m-%dT%H:%M:%S", std::gmtime(&t));
+        ecrit_oem(out, objet, points, maintenant);
+    } else {
+        ecrit_czml(out, objet, points, 86400.0 / etat.orbite.orb_moy_mvt, etat.session.pas_sim);
+    }
+    out.flush();
+    if (!out) {
+        std::cerr << "kestrel: erreur d'écriture des résultats\n";
+        return SORTIE_ECHEC;
+    }
+    return SORTIE_OK;
+}
+
 }  // namespace
 
 Commande enregistre_orbit(CLI::App& app) {
@@ -67,7 +108,12 @@ Commande enregistre_orbit(CLI::App& app) {
         "header " + std::string(ENTETE) + ". Without --start and --end the period runs from the "
         "orbit's epoch to one orbital period later, every 120 s.");
     ajoute_options_communes(c.app, *options);
-    c.lance = [options]() -> int {
+    auto format = std::make_shared<std::string>("csv");
+    c.app->add_option("--format", *format,
+                      "csv (default), oem (CCSDS Orbit Ephemeris Message, KVN, inertial frame of 1950) "
+                      "or czml (CesiumJS, Earth-fixed positions)")
+        ->check(CLI::IsMember({"csv", "oem", "czml"}));
+    c.lance = [options, format]() -> int {
         Etat etat;
         if (int r = prepare_etat(*options, etat); r != SORTIE_OK) return r;
         Sortie sortie(options->out);
@@ -76,6 +122,7 @@ Commande enregistre_orbit(CLI::App& app) {
             return SORTIE_ECHEC;
         }
         std::ostream& out = sortie.flux();
+        if (*format != "csv") return exporte(etat, *format, out);
         out << ENTETE << '\n';
         parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
             etat.session.j_courant = j;
