@@ -129,6 +129,11 @@ void TestOrbitoConf::boites_de_l_orbite() {
                                      {"lbl_unite_demi", "kms"}, {"z_apogee", "Apogée : "}, {"z_perigee", "Périgée : "}})
         QCOMPARE(b.texte(nom), QString::fromUtf8(texte));
 
+    // Passing through a box changes nothing: the day stays 80.55001, not the 80.5500 shown.
+    b.saisit("norad_jour", "80.5500");
+    QCOMPARE(b.etat.orbite.orb_jour, 80.55001);
+    QCOMPARE(b.etat.session.config_modifiee, int16_t{0});
+
     // Out of range: corrected without a word. Leaving the box or Enter alike.
     b.saisit("norad_ascension", "400");
     QCOMPARE(b.texte("norad_ascension"), "360.0000000000");

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -15,9 +16,16 @@
 
 namespace kestrel::gui {
 
-// The box applies its entry when it loses the focus and at once on Enter.
+// The box applies its entry when it loses the focus and at once on Enter. A
+// text left as the box showed it is no entry: passing through a box must not
+// round the value to its display picture (an epoch day shown "80.5500").
 inline ControleSaisie* saisie_sur_sortie_et_entree(QLineEdit* champ, Dialogues& dialogues, Verification verif) {
-    ControleSaisie* c = surveille(champ, dialogues, std::move(verif));
+    auto controle = std::make_shared<ControleSaisie*>(nullptr);
+    ControleSaisie* c = surveille(champ, dialogues, [controle, verif = std::move(verif)](const QString& texte) {
+        if (*controle && texte == (*controle)->ancien()) return Verdict{};
+        return verif(texte);
+    });
+    *controle = c;
     QObject::connect(champ, &QLineEdit::returnPressed, c, [c] { c->verifie(); });
     return c;
 }
