@@ -24,6 +24,7 @@ Commande enregistre_orbit(CLI::App& app);
 Commande enregistre_project(CLI::App& app);
 Commande enregistre_power(CLI::App& app);
 Commande enregistre_attitude(CLI::App& app);
+Commande enregistre_exploit(CLI::App& app);
 Commande enregistre_study(CLI::App& app);
 
 struct OptionsCommunes {

@@ -91,6 +91,12 @@ bool enregistre(const Dessin& d, const QString& chemin, Cadre cadre) {
 std::unique_ptr<QGuiApplication> application_hors_ecran() {
     if (QGuiApplication::instance()) return nullptr;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a desktop session Qt warns about its runtime folder, which a
+    // program writing a picture never uses: that warning alone is dropped.
+    static QtMessageHandler precedent = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext& ctx, const QString& m) {
+            if (!m.startsWith(QLatin1String("QStandardPaths:")) && precedent) precedent(type, ctx, m);
+        });
     static int argc = 1;
     static char nom[] = "kestrel";
     static char* argv[] = {nom, nullptr};
