@@ -7,7 +7,7 @@
 
 namespace kestrel::gui {
 
-ImageDessin::ImageDessin(QWidget* parent) : QWidget(parent) {
+ImageDessin::ImageDessin(QWidget* parent, rendu::Cadre cadre) : QWidget(parent), cadre_(cadre) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -18,14 +18,15 @@ void ImageDessin::montre(std::optional<Dessin> d) {
 }
 
 QSize ImageDessin::sizeHint() const {
-    if (dessin_) return rendu::taille(*dessin_, rendu::Cadre::avec_textes);
+    if (dessin_) return rendu::taille(*dessin_, cadre_);
+    if (cadre_ == rendu::Cadre::image) return {graphe::largeur, graphe::hauteur};
     return {graphe::largeur + 100, graphe::hauteur + 60};
 }
 
 void ImageDessin::paintEvent(QPaintEvent*) {
     QPainter p(this);
     if (dessin_)
-        rendu::peint(p, *dessin_, rendu::Cadre::avec_textes);
+        rendu::peint(p, *dessin_, cadre_);
     else
         p.fillRect(rect(), Qt::white);
 }

@@ -5,13 +5,16 @@
 #include <optional>
 
 #include "core/project/dessin.h"
+#include "rendu/peintre.h"
 
 namespace kestrel::gui {
 
 class ImageDessin : public QWidget {
     Q_OBJECT
 public:
-    explicit ImageDessin(QWidget* parent = nullptr);
+    // avec_textes: the picture in its margins with its labels; image: the
+    // picture alone, its labels being shown by the window's own controls.
+    explicit ImageDessin(QWidget* parent = nullptr, rendu::Cadre cadre = rendu::Cadre::avec_textes);
 
     void montre(std::optional<Dessin> d);
     const std::optional<Dessin>& dessin() const { return dessin_; }
@@ -22,6 +25,7 @@ protected:
 
 private:
     std::optional<Dessin> dessin_;
+    rendu::Cadre cadre_;
 };
 
 }  // namespace kestrel::gui

@@ -2,6 +2,7 @@
 
 #include <QBrush>
 #include <QColor>
+#include <algorithm>
 
 namespace kestrel::gui {
 
@@ -9,15 +10,51 @@ void ModeleTextes::charge(TableTextes table, QStringList entetes) {
     beginResetModel();
     table_ = std::move(table);
     entetes_ = std::move(entetes);
+    lignes_ = static_cast<int>(table_.lignes());
     endResetModel();
 }
 
+void ModeleTextes::vide() {
+    beginResetModel();
+    table_ = TableTextes(std::max(1, static_cast<int>(entetes_.size())));
+    lignes_ = 0;
+    endResetModel();
+}
+
+void ModeleTextes::montre_lignes_ajoutees() {
+    const int n = static_cast<int>(table_.lignes());
+    if (n < lignes_) {  // the run emptied the table
+        beginResetModel();
+        lignes_ = n;
+        endResetModel();
+        return;
+    }
+    if (n == lignes_) return;
+    beginInsertRows({}, lignes_, n - 1);
+    lignes_ = n;
+    endInsertRows();
+}
+
+void ModeleTextes::entetes(QStringList entetes) {
+    const bool colonnes = entetes.size() != entetes_.size();
+    if (colonnes) beginResetModel();
+    entetes_ = std::move(entetes);
+    if (colonnes) {
+        table_ = TableTextes(std::max(1, static_cast<int>(entetes_.size())));
+        lignes_ = 0;
+        endResetModel();
+    } else {
+        emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(entetes_.size()) - 1);
+    }
+}
+
 int ModeleTextes::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(table_.lignes());
+    return parent.isValid() ? 0 : lignes_;
 }
 
 int ModeleTextes::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() || table_.lignes() == 0 ? 0 : table_.colonnes();
+    if (parent.isValid()) return 0;
+    return lignes_ == 0 && entetes_.isEmpty() ? 0 : table_.colonnes();
 }
 
 QVariant ModeleTextes::data(const QModelIndex& index, int role) const {

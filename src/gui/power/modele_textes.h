@@ -17,6 +17,15 @@ public:
     void charge(TableTextes table, QStringList entetes);
     const TableTextes& table() const { return table_; }
 
+    // A table that a run fills while the grid shows it: vide() empties it,
+    // the run appends to table_en_cours(), and montre_lignes_ajoutees() shows
+    // the rows added since the last call in one insertion.
+    void vide();
+    TableTextes& table_en_cours() { return table_; }
+    void montre_lignes_ajoutees();
+    // Headers changed with the rows kept.
+    void entetes(QStringList entetes);
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -25,6 +34,7 @@ public:
 private:
     TableTextes table_{1};
     QStringList entetes_;
+    int lignes_ = 0;  // rows the view knows of
 };
 
 }  // namespace kestrel::gui

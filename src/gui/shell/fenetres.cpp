@@ -4,6 +4,8 @@
 #include "orbit/orbito_conf.h"
 #include "power/power_exp_bat.h"
 #include "power/power_exp_pan.h"
+#include "project/att_exp_data.h"
+#include "project/power_exp_data.h"
 #include "shell/menu.h"
 
 namespace kestrel::gui {
@@ -20,6 +22,8 @@ void branche_fenetres(menu& m) {
     m.branche("mn_conf_att_prop", [&m] { ouvre_att_conf(m, att_conf::onglet_proprietes); });
     m.branche("mn_conf_att_act", [&m] { ouvre_att_conf(m, att_conf::onglet_actionneurs); });
     m.branche("mn_conf_att_gest", [&m] { ouvre_att_conf(m, att_conf::onglet_gestion); });
+    m.branche("mn_exp_pow_data", [&m] { ouvre_power_exp_data(m); });
+    m.branche("mn_exp_att_data", [&m] { ouvre_att_exp_data(m); });
 }
 
 }  // namespace kestrel::gui
