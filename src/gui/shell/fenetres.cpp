@@ -5,6 +5,7 @@
 #include "power/power_exp_bat.h"
 #include "power/power_exp_pan.h"
 #include "project/att_exp_data.h"
+#include "project/power_conf.h"
 #include "project/power_exp_data.h"
 #include "shell/menu.h"
 
@@ -24,6 +25,7 @@ void branche_fenetres(menu& m) {
     m.branche("mn_conf_att_gest", [&m] { ouvre_att_conf(m, att_conf::onglet_gestion); });
     m.branche("mn_exp_pow_data", [&m] { ouvre_power_exp_data(m); });
     m.branche("mn_exp_att_data", [&m] { ouvre_att_exp_data(m); });
+    branche_power_conf(m);
 }
 
 }  // namespace kestrel::gui

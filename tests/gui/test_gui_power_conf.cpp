@@ -1,0 +1,422 @@
+// The power settings window driven by its object names from the main window:
+// limits and refusals, repairs, catalogues, the body choice, the charts, the
+// reload on open and the round trip through a saved project.
+#include <QtCharts>
+#include <QtTest>
+#include <QtWidgets>
+#include <memory>
+
+#include "core/etat.h"
+#include "core/project/projet.h"
+#include "faux_dialogues.h"
+#include "project/power_conf.h"
+#include "shell/menu.h"
+
+using kestrel::Etat;
+using kestrel::Icone;
+using kestrel::gui::menu;
+
+namespace {
+
+const QString hors = QStringLiteral("Valeur hors limite !! Saisissez une valeur : \n");
+const QString insuff = QStringLiteral("Valeur insuffisante! Saisissez une valeur ");
+
+struct Banc {
+    Etat etat;
+    FauxDialogues dlg;
+    std::unique_ptr<menu> m = std::make_unique<menu>(etat, dlg);
+    QTemporaryDir tmp;
+
+    // Opens the window from a menu entry and waits until it can take the focus.
+    QWidget* ouvre(const char* entree = "mn_conf_pow_pan") {
+        m->findChild<QAction*>(entree)->trigger();
+        QWidget* f = m->findChild<QWidget*>("power_conf");
+        if (!f || !QTest::qWaitForWindowActive(f)) qFatal("power_conf not shown");
+        return f;
+    }
+    template <class T = QLineEdit>
+    T* ctrl(const QString& nom) {
+        T* c = m->findChild<T*>(nom);
+        if (!c) qFatal("control %s not found", qPrintable(nom));
+        return c;
+    }
+    // The tab holding the control comes forward, as a user would pick it.
+    void montre(QWidget* c) {
+        auto* o = ctrl<QTabWidget>("Onglet_power");
+        for (int i = 0; i < o->count(); ++i)
+            if (o->widget(i)->isAncestorOf(c)) o->setCurrentIndex(i);
+    }
+    // Types text into the box then leaves it; returns the message shown, if any.
+    QString saisit(const QString& nom, const QString& texte) {
+        QLineEdit* c = ctrl(nom);
+        montre(c);
+        const auto avant = dlg.messages.size();
+        c->setFocus();
+        c->selectAll();
+        QTest::keyClicks(c, texte);
+        ctrl<QPushButton>("cmd_quit")->setFocus();
+        return dlg.messages.size() > avant ? dlg.messages.last().texte : QString();
+    }
+    QString texte(const QString& nom) { return ctrl(nom)->text(); }
+    void clique(const char* nom) {
+        auto* b = ctrl<QAbstractButton>(nom);
+        montre(b);
+        b->click();
+    }
+    void choisit(const char* combo, int entree) {
+        auto* c = ctrl<QComboBox>(combo);
+        c->setCurrentIndex(entree);
+        emit c->activated(entree);
+    }
+    QList<QAbstractSeries*> series(const char* graphe) { return ctrl<QChartView>(graphe)->chart()->series(); }
+    QPointF point(const char* graphe, int serie, int k) {
+        return static_cast<QLineSeries*>(series(graphe).at(serie))->at(k);
+    }
+};
+
+}  // namespace
+
+class TestPowerConf : public QObject {
+    Q_OBJECT
+private slots:
+    void limites_data();
+    void limites();
+    void entiers_et_types();
+    void reparations_et_rendement();
+    void catalogues();
+    void corps_et_options();
+    void graphes();
+    void rechargement_et_aller_retour();
+};
+
+// One row per line of the limits table: the box, its two limits (nan: none),
+// whether each is inclusive, the step for "just inside / beyond", and the
+// message at the lower and at the upper side.
+void TestPowerConf::limites_data() {
+    QTest::addColumn<QString>("nom");
+    QTest::addColumn<double>("bas");
+    QTest::addColumn<double>("haut");
+    QTest::addColumn<bool>("bas_inclus");
+    QTest::addColumn<bool>("haut_inclus");
+    QTest::addColumn<double>("pas");
+    QTest::addColumn<QString>("msg_bas");
+    QTest::addColumn<QString>("msg_haut");
+    const double aucun = qQNaN();
+    auto ligne = [](const char* nom, double b, double h, const QString& mb, const QString& mh, double pas = 0.01,
+                    bool bi = true, bool hi = true) { QTest::newRow(nom) << nom << b << h << bi << hi << pas << mb << mh; };
+    for (const char* n : {"cel_txt_isc", "cel_txt_imp", "cel_txt_voc", "cel_txt_vmp"})
+        ligne(n, 0, 10, hors + "0 <= Valeur <= 10", hors + "0 <= Valeur <= 10");
+    for (const char* n : {"cel_txt_disc", "cel_txt_dimp", "cel_txt_dvoc", "cel_txt_dvmp"})
+        ligne(n, -0.05, 0.05, hors + "-0.05 <= Valeur <= 0.05", hors + "-0.05 <= Valeur <= 0.05", 0.001);
+    for (const char* n : {"cel_txt_ns", "cel_txt_np", "cel_txt_surf"})
+        ligne(n, 0, 100, hors + "0 <= Valeur <= 100", hors + "0 <= Valeur <= 100");
+    for (const char* n : {"cel_txt_radisc", "cel_txt_radimp", "cel_txt_radvoc", "cel_txt_radvmp"})
+        ligne(n, 0, 1.02, hors + "0 <= Valeur <= 1.02", hors + "0 <= Valeur <= 1.02");
+    // Incidences: divergence up to the maximum 75, maximum from the divergence 50.
+    ligne("cel_txt_tetad", 0, 75, hors + "0 <= Valeur <= 75", hors + "0 <= Valeur <= 75");
+    ligne("cel_txt_tetam", 50, 90, hors + "50 <= Valeur <= 90", hors + "50 <= Valeur <= 90");
+    ligne("gst_txt_Vregul", 0.1, 100, hors + "0.1 <= Valeur <= 100", hors + "0.1 <= Valeur <= 100");
+    for (const char* n : {"gst_txt_chini", "gst_txt_rendbat", "gst_txt_rendgs", "gst_txt_diss", "gst_txt_cour_ent"})
+        ligne(n, 0, 100, hors + "0 <= Valeur <= 100", hors + "0 <= Valeur <= 100");
+    for (const char* n : {"gst_txt_ichmax", "gst_txt_pdem"}) ligne(n, 0, aucun, insuff + ">= 0", {});
+    for (const char* n : {"gst_txt_kcharge", "gst_txt_chvmax"}) ligne(n, 1, aucun, insuff + ">= 1", {});
+    ligne("pan_txt_ext_ang", -180, 180, hors + "-180 <= Valeur <= 180", hors + "-180 <= Valeur <= 180");
+    for (const char* n : {"pan_txt_ext_gap", "pan_txt_ext_omega", "pan_txt_h", "pan_txt_s"})
+        ligne(n, 0, aucun, insuff + ">= 0", {});
+    ligne("pan_txt_ext_lag", 0, aucun, insuff + ">= 0", {}, 1);
+    // Optical properties: rear absorptivity 0.16 / 0.3, so the initial value
+    // stops at 0.3 and the limit value at 0.16.
+    ligne("thex_txt_alpha0_ar", 0, 0.3, hors + "0 <= Valeur <= 0.3", hors + "0 <= Valeur <= 0.3");
+    ligne("thex_txt_alim_ar", 0.16, 1, hors + "0.16 <= Valeur <= 1", hors + "0.16 <= Valeur <= 1");
+    for (const char* n : {"thex_txt_eps_av", "thex_txt_eps_face"}) ligne(n, 0, 1, hors + "0 <= Valeur <= 1", hors + "0 <= Valeur <= 1");
+    for (const char* n : {"thex_txt_masse_pan", "thex_txt_cp_face", "thex_txt_cond", "thex_txt_rad", "thex_txt_aire_pan",
+                          "thbd_txt_masse", "thbd_txt_cp_int", "thbd_txt_condcyl"})
+        ligne(n, 0, aucun, insuff + ">= 0", {});
+    for (const char* n : {"thex_txt_t99_face", "thbd_txt_t99"}) ligne(n, 0, aucun, insuff + ">= 0", {}, 1);
+    ligne("bat_txt_c", 0, aucun, insuff + ">= 0", {});
+    for (const char* n : {"bat_txt_ns", "bat_txt_np"})
+        ligne(n, 0, 255, insuff + ">= 0", "Valeur excessive !! Saisissez une valeur <= 255", 1);
+    ligne("bat_txt_cmax", 1, 2, hors + "1 <= Valeur <= 2", hors + "1 <= Valeur <= 2");
+    ligne("bat_txt_c10", 0, 1, hors + "0 <= Valeur <= 1", hors + "0 <= Valeur <= 1");
+    ligne("bat_txt_cmin", 0, 100, hors + "0 <= Valeur <= 100", hors + "0 <= Valeur <= 100");
+    // Self-discharge: 0 <= tau50 < tau0 = 100, tau0 > tau50 = 15.
+    ligne("bat_txt_tc50", 0, 100, hors + "0 <= Valeur < 100", hors + "0 <= Valeur < 100", 0.01, true, false);
+    ligne("bat_txt_tc0", 15, aucun, insuff + "> 15", {}, 0.01, false);
+}
+
+void TestPowerConf::limites() {
+    QFETCH(QString, nom);
+    QFETCH(double, bas);
+    QFETCH(double, haut);
+    QFETCH(bool, bas_inclus);
+    QFETCH(bool, haut_inclus);
+    QFETCH(double, pas);
+    QFETCH(QString, msg_bas);
+    QFETCH(QString, msg_haut);
+    Banc b;
+    b.ouvre();
+    b.clique("gst_opt_regul_0");  // the regulated voltage is open in that mode only
+    b.choisit("bat_cmb_type", 3);  // "Générique" opens the catalogue's fields
+    b.clique("cel_opt_beol_1");    // the ratios are open at end of life only
+    if (nom.startsWith(QLatin1String("thbd"))) b.clique("pan_opt_pan_1");  // that model's frame
+    auto essaie = [&](double x, const QString& attendu) {
+        const QString avant = b.texte(nom);
+        const QString msg = b.saisit(nom, QString::number(x, 'g', 10));
+        QCOMPARE(msg, attendu);
+        if (!attendu.isEmpty()) {
+            QCOMPARE(b.texte(nom), avant);  // the old value is back
+            QVERIFY(b.ctrl(nom)->hasFocus());
+            QCOMPARE(b.dlg.messages.last().icone, Icone::avertissement);
+        }
+    };
+    // lower side: at, inside, beyond
+    essaie(bas, bas_inclus ? QString() : msg_bas);
+    essaie(bas + pas, {});
+    essaie(bas - pas, msg_bas);
+    if (!qIsNaN(haut)) {
+        essaie(haut, haut_inclus ? QString() : msg_haut);
+        essaie(haut - pas, {});
+        essaie(haut + pas, msg_haut);
+    }
+}
+
+void TestPowerConf::entiers_et_types() {
+    Banc b;
+    b.ouvre();
+    for (const char* nom : {"thex_txt_t99_av", "bat_txt_ns", "pan_txt_ext_lag"}) {
+        const QString avant = b.texte(nom);
+        QCOMPARE(b.saisit(nom, "2.5"), QStringLiteral("Type de donnée non valide"));
+        QCOMPARE(b.dlg.messages.last().icone, Icone::critique);
+        QCOMPARE(b.texte(nom), avant);
+        QVERIFY(b.ctrl(nom)->hasFocus());
+    }
+    QCOMPARE(b.saisit("cel_txt_tref", "chaud"), QStringLiteral("Type de donnée non valide"));
+    QCOMPARE(b.etat.pwr.ext_t99[0], 20000);
+    QCOMPARE(b.etat.pwr.bat_ns, 10);
+    QCOMPARE(b.etat.session.config_modifiee, 0);  // nothing accepted yet
+    QCOMPARE(b.saisit("cel_txt_tref", "30,5"), QString());
+    QCOMPARE(b.etat.pwr.cel_tref, 30.5f);
+    QCOMPARE(b.etat.session.config_modifiee, 1);
+}
+
+void TestPowerConf::reparations_et_rendement() {
+    Banc b;
+    b.ouvre("mn_conf_pow_perf");
+    QCOMPARE(b.ctrl<QTabWidget>("Onglet_power")->currentIndex(), 1);
+    // Isc 0.53 / Imp 0.5, Voc 1 / Vmp 0.86: each pair kept 0.02 apart.
+    const char* cas[][3] = {{"cel_txt_isc", "0.3", "cel_txt_isc"},   // -> Imp + 0.02 = 0.52
+                            {"cel_txt_imp", "0.9", "cel_txt_imp"},   // -> Isc - 0.02 = 0.5
+                            {"cel_txt_vmp", "1.2", "cel_txt_vmp"},   // -> Voc - 0.02 = 0.98
+                            {"cel_txt_voc", "0.5", "cel_txt_voc"}};  // -> Vmp + 0.02 = 1
+    const char* attendus[] = {"0.52", "0.5", "0.98", "1"};
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(b.saisit(cas[i][0], cas[i][1]), QString());
+        QCOMPARE(b.texte(cas[i][2]), QString::fromLatin1(attendus[i]));
+    }
+    // 0.5 A * 0.98 V * 10000 / 1368 / 16 = 22.39 %
+    QCOMPARE(b.ctrl<QLabel>("lbl_eff")->text(), QStringLiteral("22.4"));
+    QVERIFY(!b.ctrl("cel_txt_radisc")->isEnabled());
+    b.clique("cel_opt_beol_1");
+    QVERIFY(b.ctrl("cel_txt_radisc")->isEnabled());
+    // End of life: Isc 0.52 * 0.9 = 0.468 not above Imp 0.5 * 1: Imp/Imp0 = 0.9 * 0.98 * 0.52 / 0.5 = 0.91728.
+    QCOMPARE(b.saisit("cel_txt_radisc", "0.9"), QString());
+    QCOMPARE(b.texte("cel_txt_radimp").left(7), QStringLiteral("0.91728"));
+    // Vmp/Vmp0 = 0.99: 1 * 1 = 1 is above 0.98 * 0.99, no repair; then
+    // Voc/Voc0 = 0.9: 0.9 not above 0.9702, Vmp/Vmp0 = 0.9 * 0.98 * 1 / 0.98 = 0.9.
+    QCOMPARE(b.saisit("cel_txt_radvmp", "0.99"), QString());
+    QCOMPARE(b.texte("cel_txt_radvoc"), QStringLiteral("1"));
+    QCOMPARE(b.saisit("cel_txt_radvoc", "0.9"), QString());
+    QCOMPARE(b.texte("cel_txt_radvmp"), QStringLiteral("0.9"));
+    // Mirror: Vmp/Vmp0 = 1.02 makes 0.98 * 1.02 = 0.9996 not below 1 * 0.9,
+    // so Voc/Voc0 = 1.02 * 1.02 * 0.98 / 1 = 1.019592.
+    QCOMPARE(b.saisit("cel_txt_radvmp", "1.02"), QString());
+    QCOMPARE(b.texte("cel_txt_radvoc"), QStringLiteral("1.019592"));
+    QCOMPARE(b.saisit("cel_txt_radvmp", "0.9"), QString());  // back, no repair: 1.019592 > 0.882
+    // EOL efficiency: 0.5 * 0.91728 * 0.98 * 0.9 * 10000 / 1368 / 16 = 18.48 %
+    QCOMPARE(b.ctrl<QLabel>("lbl_eff")->text(), QStringLiteral("18.5"));
+    QCOMPARE(b.saisit("cel_txt_surf", "20"), QString());  // * 16 / 20 = 14.79
+    QCOMPARE(b.ctrl<QLabel>("lbl_eff")->text(), QStringLiteral("14.8"));
+}
+
+void TestPowerConf::catalogues() {
+    Banc b;
+    b.ouvre("mn_conf_pow_bat");
+    QCOMPARE(b.ctrl<QTabWidget>("Onglet_power")->currentIndex(), 3);
+    // Silicium, then the same entry again after an edit: the edit is lost.
+    b.choisit("cel_cmb_type", 1);
+    QCOMPARE(b.saisit("cel_txt_isc", "2"), QString());
+    QCOMPARE(b.saisit("cel_txt_ns", "12"), QString());
+    b.choisit("cel_cmb_type", 1);
+    QCOMPARE(b.texte("cel_txt_isc"), QStringLiteral("1"));
+    QCOMPARE(b.texte("cel_txt_vmp"), QStringLiteral("0.45"));
+    QCOMPARE(b.texte("cel_txt_surf"), QStringLiteral("20"));
+    QCOMPARE(b.texte("cel_txt_ns"), QStringLiteral("12"));  // counts stay
+    QCOMPARE(b.etat.pwr.cel_type, 1);
+    QCOMPARE(b.ctrl<QLabel>("lbl_eff")->text(), QStringLiteral("15.6"));  // 0.95 * 0.45 * 10000 / 1368 / 20
+
+    // Lithium-Ion: curves, factors and the two management fields; fields locked.
+    b.choisit("bat_cmb_type", 2);
+    QCOMPARE(b.texte("bat_txt_d100_3"), QStringLiteral("2.8"));
+    QCOMPARE(b.texte("bat_txt_1_5"), QStringLiteral("0.4"));
+    QCOMPARE(b.texte("bat_txt_c10"), QStringLiteral("0.80"));
+    QCOMPARE(b.texte("bat_txt_tc0"), QStringLiteral("500"));
+    QCOMPARE(b.texte("gst_txt_chvmax"), QStringLiteral("4"));
+    QCOMPARE(b.texte("gst_txt_kcharge"), QStringLiteral("1"));
+    QVERIFY(!b.ctrl("bat_txt_d100_3")->isEnabled());
+    QVERIFY(!b.ctrl("bat_txt_cmax")->isEnabled());
+    QVERIFY(b.ctrl("bat_txt_c")->isEnabled());
+    // Générique keeps the values and opens them; an edit then sticks.
+    b.choisit("bat_cmb_type", 3);
+    QVERIFY(b.ctrl("bat_txt_d100_3")->isEnabled());
+    QCOMPARE(b.texte("bat_txt_d100_3"), QStringLiteral("2.8"));
+    QCOMPARE(b.saisit("bat_txt_d100_3", "2.7"), QString());
+    QCOMPARE(b.etat.pwr.de_pt[3][3], 2.7f);
+    QCOMPARE(b.etat.pwr.bat_type, 3);
+    // Nickel-Cadmium again overwrites it.
+    b.choisit("bat_cmb_type", 0);
+    QCOMPARE(b.texte("bat_txt_d100_3"), QStringLiteral("1"));
+    QCOMPARE(b.texte("gst_txt_chvmax"), QStringLiteral("1.55"));
+}
+
+void TestPowerConf::corps_et_options() {
+    Banc b;
+    b.ouvre();
+    auto* liste = b.ctrl<QListWidget>("pan_list_conf");
+    liste->setCurrentRow(1);  // external panels: refused
+    QCOMPARE(liste->currentRow(), 0);
+    QCOMPARE(b.etat.pwr.opt_faces, 0);
+    b.clique("pan_opt_pan_1");
+    QCOMPARE(b.etat.pwr.opt_panel_ext, 0);
+    QVERIFY(!b.ctrl("pan_txt_ext_ang")->isEnabled());
+    liste->setCurrentRow(1);  // six faces, 60 degrees apart
+    QCOMPARE(b.etat.pwr.nb_faces, 6);
+    QVERIFY(qAbs(b.etat.pwr.face_azim[2] - 120 * 0.017453292519943278) < 1e-12);
+    QVERIFY(b.ctrl<QLabel>("pan_img_body_1")->isVisible());
+    liste->setCurrentRow(2);
+    QCOMPARE(b.etat.pwr.opt_faces, 2);
+    QCOMPARE(b.ctrl<QLabel>("pan_lab_s")->text(), QStringLiteral("Diamètre (m)"));
+    QVERIFY(b.ctrl<QLabel>("pan_img_body_2")->isVisible());
+    QVERIFY(!b.ctrl<QLabel>("pan_img_body_1")->isVisible());
+
+    // Thermal tab: the frame of the model in force.
+    b.ctrl<QTabWidget>("Onglet_power")->setCurrentIndex(2);
+    QVERIFY(b.ctrl<QWidget>("thbd_frm")->isVisible());
+    QVERIFY(!b.ctrl<QWidget>("thex_frm")->isVisible());
+    // Date of the coatings: 1 January 2000 is day 18262 (50 years, 12 leap days).
+    b.ctrl<QDateEdit>("th_txt_date")->setDate(QDate(2000, 1, 1));
+    QCOMPARE(b.etat.pwr.date_cell, 18262);
+    // The element chosen in a list is the one edited: the upper face.
+    b.ctrl<QListWidget>("thbd_list_cond")->setCurrentRow(1);
+    QCOMPARE(b.texte("thbd_txt_masse"), QStringLiteral("2"));
+    QCOMPARE(b.saisit("thbd_txt_masse", "3"), QString());
+    QCOMPARE(b.etat.pwr.fac_mass[1], 3.0f);
+    QCOMPARE(b.etat.pwr.fac_mass[0], 5.0f);
+
+    // Slider and angle box mirror each other (panels external again).
+    b.clique("pan_opt_pan_0");
+    b.ctrl<QSlider>("pan_sld_ang")->setValue(-45);
+    QCOMPARE(b.texte("pan_txt_ext_ang"), QStringLiteral("-45"));
+    QCOMPARE(b.saisit("pan_txt_ext_ang", "30"), QString());
+    QCOMPARE(b.ctrl<QSlider>("pan_sld_ang")->value(), 30);
+    b.clique("pan_chk_fix");
+    QCOMPARE(b.etat.pwr.pan_fixed, -1);
+    // Management: the regulated voltage only for a regulated bus; day or eclipse.
+    QVERIFY(!b.ctrl("gst_txt_Vregul")->isEnabled());
+    b.clique("gst_opt_regul_0");
+    QCOMPARE(b.etat.pwr.gst_regulated, 1);
+    QVERIFY(b.ctrl("gst_txt_Vregul")->isEnabled());
+    b.clique("gst_opt_jn_1");
+    QCOMPARE(b.saisit("gst_txt_pdem", "80"), QString());
+    QCOMPARE(b.etat.pwr.p_demand[1], 80.0f);
+    QCOMPARE(b.etat.pwr.p_demand[0], 50.0f);
+}
+
+void TestPowerConf::graphes() {
+    Banc b;
+    b.ouvre("mn_conf_pow_perf");
+    // Cells (AsGa, Tref 28): Tref and 28 - 50, -25, +25, +50 °C. At V = 0 the
+    // current is Isc(T) = 0.53 + 0.0003 dT; the last point is Voc(T) = 1 - 0.002 dT, 0 A.
+    QCOMPARE(b.series("cel_charac_graph").size(), 5);
+    QCOMPARE(b.series("cel_charac_graph").at(0)->name(), QStringLiteral("Tréf"));
+    const double dT[] = {0, -50, -25, 25, 50};
+    for (int s = 0; s < 5; ++s) {
+        QVERIFY(qAbs(b.point("cel_charac_graph", s, 0).y() - (0.53 + 0.0003 * dT[s])) < 1e-6);
+        QVERIFY(qAbs(b.point("cel_charac_graph", s, 50).x() - (1 - 0.002 * dT[s])) < 1e-6);
+        QVERIFY(qAbs(b.point("cel_charac_graph", s, 50).y()) < 1e-9);
+    }
+    auto* vue = b.ctrl<QChartView>("cel_charac_graph");
+    QCOMPARE(vue->chart()->axes(Qt::Horizontal).at(0)->titleText(), QStringLiteral("Tension (V)"));
+    QCOMPARE(vue->chart()->axes(Qt::Vertical).at(0)->titleText(), QStringLiteral("Courant (A)"));
+    // Power at the maximum power point of Tref: 0.86 V * 0.5 A (the law gives Imp at Vmp).
+    b.clique("cel_opt_puiss");
+    QVERIFY(qAbs(b.point("cel_charac_graph", 0, 43).y() - 0.43) < 1e-6);
+    QCOMPARE(vue->chart()->axes(Qt::Vertical).at(0)->titleText(), QStringLiteral("Puissance (W)"));
+    b.clique("cel_opt_cour");
+    QCOMPARE(b.saisit("cel_txt_isc", "0.6"), QString());  // the chart follows
+    QVERIFY(qAbs(b.point("cel_charac_graph", 0, 0).y() - 0.6) < 1e-6);
+
+    // Discharge at 25 °C, depth 50 %, on the line from point 1 to point 2 of
+    // each current i: l = log10 i, x1 = (15 - 5 l) %, x2 = (95 - 2 l) %,
+    // v1 = 1.21 - 0.01 l, v2 = 1.2 - 0.01 l, v = v1 + (0.5 - x1) (v2 - v1) / (x2 - x1).
+    QCOMPARE(b.ctrl<QChartView>("bat_dch_graph")->chart()->title(), QStringLiteral("Caractéristiques de décharge à 25°C"));
+    const char* courants[] = {"0.2C", "0.5C", "1C", "2C"};
+    const double v_dch[] = {1.2129456, 1.2087756, 1.205625, 1.2024775};
+    QCOMPARE(b.series("bat_dch_graph").size(), 4);
+    for (int s = 0; s < 4; ++s) {
+        QCOMPARE(b.series("bat_dch_graph").at(s)->name(), QString::fromLatin1(courants[s]));
+        QCOMPARE(b.point("bat_dch_graph", s, 50).x(), 50.0);
+        QVERIFY(qAbs(b.point("bat_dch_graph", s, 50).y() - v_dch[s]) < 1e-6);
+    }
+    // Charge at 1C by temperature, state 20 %: dt = T - 25, x1 = (15 + 0.1 dt) %,
+    // x2 = (65 + 0.5 dt) %, v1 = 1.4 - 0.001 dt, v2 = v1 + 0.01.
+    b.clique("bat_ch_opt_temp");
+    QCOMPARE(b.ctrl<QChartView>("bat_ch_graph")->chart()->title(), QStringLiteral("Caractéristiques de charge à Cnom"));
+    const char* temperatures[] = {"-50°C", "-25°C", "0°C", "25°C", "50°C"};
+    const double v_ch[] = {1.48125, 1.4533333, 1.426875, 1.401, 1.3754167};
+    QCOMPARE(b.series("bat_ch_graph").size(), 5);
+    for (int s = 0; s < 5; ++s) {
+        QCOMPARE(b.series("bat_ch_graph").at(s)->name(), QString::fromUtf8(temperatures[s]));
+        QVERIFY(qAbs(b.point("bat_ch_graph", s, 20).y() - v_ch[s]) < 1e-6);
+    }
+    b.clique("bat_dch_opt_temp");
+    QCOMPARE(b.series("bat_dch_graph").size(), 5);
+    QCOMPARE(b.ctrl<QChartView>("bat_dch_graph")->chart()->title(), QStringLiteral("Caractéristiques de décharge à Cnom"));
+    QCOMPARE(b.ctrl<QChartView>("bat_ch_graph")->chart()->axes(Qt::Horizontal).at(0)->titleText(),
+             QStringLiteral("Etat de charge (%)"));
+}
+
+void TestPowerConf::rechargement_et_aller_retour() {
+    Banc b;
+    // A project written with other values, opened while the window is shown.
+    Etat autre;
+    autre.pwr.cel_isc = 0.7f;
+    autre.pwr.bat_c = 25.0f;
+    autre.pwr.ext_eps[4] = 0.6f;  // "Face Y"
+    autre.pwr.gst_regulated = 1;
+    const QString chemin = b.tmp.filePath("autre.pwr");
+    QVERIFY(!kestrel::sauve_energie(autre, chemin.toStdString()));
+    b.ouvre();
+    b.dlg.chemins = {chemin};
+    b.m->findChild<QAction*>("mn_fichier_ouvrir")->trigger();
+    QCOMPARE(b.texte("cel_txt_isc"), QStringLiteral("0.7"));
+    QCOMPARE(b.texte("bat_txt_c"), QStringLiteral("25.00"));
+    QVERIFY(b.ctrl("gst_txt_Vregul")->isEnabled());
+    b.ctrl<QListWidget>("thex_list_cubeface")->setCurrentRow(2);
+    QCOMPARE(b.texte("thex_txt_eps_face"), QStringLiteral("0.6"));
+
+    // An edit, saved, read back into a fresh state.
+    QCOMPARE(b.saisit("thex_txt_eps_face", "0.55"), QString());
+    QCOMPARE(b.saisit("bat_txt_np", "4"), QString());
+    QCOMPARE(b.etat.session.config_modifiee, 1);
+    const QString copie = b.tmp.filePath("copie.pwr");
+    b.dlg.chemins = {copie};
+    b.m->findChild<QAction*>("mn_fichier_enregsous")->trigger();
+    Etat relu;
+    QVERIFY(!kestrel::charge_energie(relu, copie.toStdString()));
+    QCOMPARE(relu.pwr.ext_eps[4], 0.55f);
+    QCOMPARE(relu.pwr.bat_np, 4);
+    QCOMPARE(relu.pwr.cel_isc, 0.7f);
+}
+
+QTEST_MAIN(TestPowerConf)
+#include "test_gui_power_conf.moc"
