@@ -24,11 +24,11 @@ namespace {
 QString image(double x, const char* picture) { return QString::fromStdString(format_image(x, picture)); }
 
 // A number read from a box, handed on when it is one.
-Verification reel(std::function<void(double)> range) {
-    return [range = std::move(range)](const QString& texte) {
+Verification reel(std::function<void(double)> suite) {
+    return [suite = std::move(suite)](const QString& texte) {
         double x = 0;
         const Verdict v = verif_double(texte.toStdString(), x);
-        if (v.ok) range(x);
+        if (v.ok) suite(x);
         return v;
     };
 }
