@@ -77,8 +77,7 @@ int lance_attitude(const OptionsAttitude& o) {
     BilanRun b = att_run(etat, params);
     if (affiche) std::cerr << "\rattitude : 100 %\n";
     if (b.erreur) {
-        std::cerr << "kestrel: attitude: " << texte_erreur(b.erreur) << "\n";
-        return SORTIE_ECHEC;
+        return signale("attitude : " + texte_erreur(b.erreur), SORTIE_ECHEC);
     }
     if (!o.quiet)
         std::cerr << "kestrel: attitude: " << b.pas << " pas, " << b.enregistrements

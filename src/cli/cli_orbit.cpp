@@ -3,10 +3,12 @@
 #include <cmath>
 #include <ctime>
 #include <vector>
+#include <sstream>
 #include <string>
 
 #include "cli/commun.h"
 #include "cli/export_orbite.h"
+#include "cli/sortie.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"
 #include "core/shell/parcours.h"
@@ -38,7 +40,7 @@ void verifie_fini(Etat& etat, double j) {
         }
 }
 
-void ecrit_ligne(std::ostream& out, double j, const SortiesOrbite& o) {
+void ecrit_ligne(Sortie& out, double j, const SortiesOrbite& o) {
     std::string l = nombre(j);
     auto ajoute = [&l](double x) {
         l += ',';
@@ -64,7 +66,7 @@ std::string nom_objet(const Orbite& o) {
 }
 
 // The run kept in memory, then written as OEM or CZML (a fault writes nothing).
-int exporte(Etat& etat, const std::string& format, std::ostream& out) {
+int exporte(Etat& etat, const std::string& format, Sortie& out) {
     std::vector<PointOrbite> points;
     parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
         orb_position(etat, j);
@@ -74,24 +76,21 @@ int exporte(Etat& etat, const std::string& format, std::ostream& out) {
         return true;
     });
     if (etat.faute) {
-        std::cerr << "kestrel: " << texte_erreur(etat.faute) << '\n';
-        return SORTIE_ECHEC;
+        signale(texte_erreur(etat.faute), SORTIE_ECHEC);
+        return termine(out, SORTIE_ECHEC);
     }
+    std::ostringstream texte;
     const std::string objet = nom_objet(etat.orbite);
     if (format == "oem") {
         const std::time_t t = std::time(nullptr);
         char maintenant[32];
         std::strftime(maintenant, sizeof maintenant, "%Y-%m-%dT%H:%M:%S", std::gmtime(&t));
-        ecrit_oem(out, objet, points, maintenant);
+        ecrit_oem(texte, objet, points, maintenant);
     } else {
-        ecrit_czml(out, objet, points, 86400.0 / etat.orbite.orb_moy_mvt, etat.session.pas_sim);
+        ecrit_czml(texte, objet, points, 86400.0 / etat.orbite.orb_moy_mvt, etat.session.pas_sim);
     }
-    out.flush();
-    if (!out) {
-        std::cerr << "kestrel: erreur d'écriture des résultats\n";
-        return SORTIE_ECHEC;
-    }
-    return SORTIE_OK;
+    out << texte.str();
+    return termine(out, SORTIE_OK);
 }
 
 }  // namespace
@@ -116,12 +115,8 @@ Commande enregistre_orbit(CLI::App& app) {
     c.lance = [options, format]() -> int {
         Etat etat;
         if (int r = prepare_etat(*options, etat); r != SORTIE_OK) return r;
-        Sortie sortie(options->out);
-        if (!sortie.ok()) {
-            std::cerr << "kestrel: impossible d'écrire le fichier « " << options->out << " »\n";
-            return SORTIE_ECHEC;
-        }
-        std::ostream& out = sortie.flux();
+        Sortie out(options->out);
+        if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
         if (*format != "csv") return exporte(etat, *format, out);
         out << ENTETE << '\n';
         parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
@@ -131,18 +126,13 @@ Commande enregistre_orbit(CLI::App& app) {
             if (!etat.faute) verifie_fini(etat, j);
             if (etat.faute) return false;
             ecrit_ligne(out, j, etat.orb);
-            return true;
+            return out.ok();
         });
-        out.flush();
         if (etat.faute) {
-            std::cerr << "kestrel: " << texte_erreur(etat.faute) << '\n';
-            return SORTIE_ECHEC;
+            signale(texte_erreur(etat.faute), SORTIE_ECHEC);
+            return termine(out, SORTIE_ECHEC);
         }
-        if (!out) {
-            std::cerr << "kestrel: erreur d'écriture des résultats\n";
-            return SORTIE_ECHEC;
-        }
-        return SORTIE_OK;
+        return termine(out, SORTIE_OK);
     };
     return c;
 }

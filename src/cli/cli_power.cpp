@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "cli/commun.h"
+#include "cli/sortie.h"
 #include "core/power/power.h"
 #include "core/shell/messages.h"
 #include "core/shell/parcours.h"
@@ -25,17 +26,17 @@ struct OptionsPower {
     bool resume = false;
 };
 
-void ecrit_entete(std::ostream& out) {
+void ecrit_entete(Sortie& out) {
     out << "date,eclipse,flux_sun,flux_alb,flux_ir,pan_angle,pan_target,gen_power,bat_soc,bat_v,bat_i,"
            "bat_p,p_payload,p_excess,p_loss_ch,p_loss_de,p_loss_gs,p_loss_pl,p_heat,t_bat,t_charge,"
            "t_discharge";
-    for (int i = 0; i < 39; ++i) out << ",node_t_" << i;
-    for (int i = 0; i < 36; ++i) out << ",pan_power_" << i;
-    for (int i = 0; i < 36; ++i) out << ",cell_eff_" << i;
+    for (int i = 0; i < 39; ++i) out << fmt::format(",node_t_{}", i);
+    for (int i = 0; i < 36; ++i) out << fmt::format(",pan_power_{}", i);
+    for (int i = 0; i < 36; ++i) out << fmt::format(",cell_eff_{}", i);
     out << "\n";
 }
 
-void ecrit_ligne(std::ostream& out, double date, const PowerRecord& p) {
+void ecrit_ligne(Sortie& out, double date, const PowerRecord& p) {
     std::string l;
     l.reserve(3000);
     auto ajoute = [&l](double x) {
@@ -74,7 +75,7 @@ struct Resume {
         pg_somme += p.gen_power;
     }
 
-    void ecrit(std::ostream& out, const Etat& etat) const {
+    void ecrit(Sortie& out, const Etat& etat) const {
         out << fmt::format("Simulation du sous-système d'énergie : {} pas de {} s\n", pas, etat.session.pas_sim);
         out << fmt::format("Fraction en éclipse : {:.1f} %\n", pas ? 100.0 * pas_eclipse / pas : 0.0);
         out << fmt::format("Charge batterie : min {:.1f} %, max {:.1f} %\n", 100 * soc_min, 100 * soc_max);
@@ -108,12 +109,8 @@ int lance_power(const OptionsPower& o) {
         return SORTIE_ECHEC;
     }
 
-    Sortie sortie(o.communes.out);
-    if (!sortie.ok()) {
-        std::cerr << "kestrel: impossible d'écrire " << o.communes.out << "\n";
-        return SORTIE_ECHEC;
-    }
-    std::ostream& out = sortie.flux();
+    Sortie out(o.communes.out);
+    if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
 
     power_state_init(etat);
     etat.pwr.t_charge = 0;
@@ -130,7 +127,7 @@ int lance_power(const OptionsPower& o) {
             alerte_montree = true;
             etat.pwr.alerte_charge = false;
         }
-        if (etat.faute || !power_etat_fini(etat, j)) return false;
+        if (etat.faute || !power_etat_fini(etat, j) || !out.ok()) return false;
         if (o.resume)
             resume.ajoute(etat.pwr);
         else
@@ -138,12 +135,11 @@ int lance_power(const OptionsPower& o) {
         return true;
     });
     if (etat.faute) {
-        out.flush();
-        std::cerr << "kestrel: " << texte_erreur(etat.faute) << "\n";
-        return SORTIE_ECHEC;
+        signale(texte_erreur(etat.faute), SORTIE_ECHEC);
+        return termine(out, SORTIE_ECHEC);
     }
     if (o.resume) resume.ecrit(out, etat);
-    return SORTIE_OK;
+    return termine(out, SORTIE_OK);
 }
 
 }  // namespace

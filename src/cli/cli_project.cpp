@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "cli/commun.h"
+#include "cli/sortie.h"
 #include "core/project/liste_champs.h"
 #include "core/project/projet.h"
 
@@ -29,14 +30,12 @@ std::string extension(const std::string& chemin) {
 
 int ecrit(const std::string& chemin, const Erreur& e) {
     if (!e) return SORTIE_OK;
-    std::cerr << "kestrel: " << chemin << ": " << texte_erreur(e) << "\n";
-    return SORTIE_ECHEC;
+    return signale(texte_lisible(chemin, 300) + ": " + texte_erreur(e), SORTIE_ECHEC);
 }
 
 int nouveau(const OptionsProjet& o) {
     if (o.pwr.empty() && o.att.empty() && o.orb.empty()) {
-        std::cerr << "kestrel: project new: give at least one of --pwr, --att, --orb\n";
-        return SORTIE_ARGUMENTS;
+        return signale("project new : au moins un fichier est attendu, --pwr, --att ou --orb", SORTIE_ARGUMENTS);
     }
     const Etat etat;  // a new project: defaults and the default period
     if (!o.pwr.empty() && ecrit(o.pwr, sauve_energie(etat, o.pwr))) return SORTIE_ECHEC;
@@ -60,12 +59,14 @@ int montre(const OptionsProjet& o) {
         e = charge_orbite(etat, o.fichier);
         champs = champs_orbite(etat.orbite);
     } else {
-        std::cerr << "kestrel: project show: " << o.fichier << ": the kind is told by the extension .pwr, .att or .orb\n";
-        return SORTIE_ARGUMENTS;
+        return signale("project show : « " + texte_lisible(o.fichier, 300) +
+                           " » : le type de fichier se lit à son extension, .pwr, .att ou .orb",
+                       SORTIE_ARGUMENTS);
     }
     if (e) return ecrit(o.fichier, e);
-    for (const auto& c : champs) std::cout << c.nom << " = " << c.valeur << "\n";
-    return SORTIE_OK;
+    Sortie out("");
+    for (const auto& c : champs) out << c.nom << " = " << c.valeur << "\n";
+    return termine(out, SORTIE_OK);
 }
 
 }  // namespace

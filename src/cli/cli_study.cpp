@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "cli/commun.h"
+#include "cli/sortie.h"
 #include "core/power/etude_batterie.h"
 #include "core/power/etude_generateur.h"
 #include "core/shell/messages.h"
@@ -28,13 +29,13 @@ struct OptionsGenerateur {
 };
 
 int echec_run(const Erreur& e) {
-    std::cerr << "kestrel: " << texte_erreur(e) << "\n";
-    return SORTIE_ECHEC;
+    return signale(texte_erreur(e), SORTIE_ECHEC);
 }
 
 int lance_batterie(OptionsBatterie o) {
     Etat etat;
-    if (int r = prepare_etat(o.communes, etat); r != SORTIE_OK) return r;
+    // the study does not walk the project's period: only the files are read
+    if (int r = prepare_etat(o.communes, etat, false); r != SORTIE_OK) return r;
     o.e.puissance_constante = o.mode == "power";
     if (Verdict v = verifie_entrees(etat.pwr, o.e); !v.ok) {
         std::string m = v.message;
@@ -42,16 +43,12 @@ int lance_batterie(OptionsBatterie o) {
         std::cerr << "kestrel: " << m << "\n";
         return SORTIE_ARGUMENTS;
     }
-    Sortie sortie(o.communes.out);
-    if (!sortie.ok()) {
-        std::cerr << "kestrel: impossible d'écrire " << o.communes.out << "\n";
-        return SORTIE_ECHEC;
-    }
+    Sortie out(o.communes.out);
+    if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
     const ResultatBatterie r = etude_batterie(etat.pwr, o.e);
     if (r.alerte_charge) std::cerr << msg::incompat_charge << "\n";
 
-    std::ostream& out = sortie.flux();
-    out << "DOD %," << r.dod << "\n";
+    out << fmt::format("DOD %,{}\n", r.dod);
     out << "Temps de recharge," << texte_duree(r.temps_recharge) << "\n";
     out << "t,phase,s,v,i\n";
     std::string l;
@@ -59,9 +56,11 @@ int lance_batterie(OptionsBatterie o) {
         l = fmt::format("{},{},{},{},{}\n", x.t, static_cast<char>(x.phase), nombre(x.s), nombre(x.v), nombre(x.i));
         out << l;
     }
-    out.flush();
-    if (r.faute) return echec_run(r.faute);
-    return SORTIE_OK;
+    if (r.faute) {
+        echec_run(r.faute);
+        return termine(out, SORTIE_ECHEC);
+    }
+    return termine(out, SORTIE_OK);
 }
 
 // Largest and smallest value of each column, NaN cells left out.
@@ -89,19 +88,15 @@ int lance_generateur(const OptionsGenerateur& o) {
     const VueGenerateur vue = o.vue == "power"  ? VueGenerateur::puissance
                               : o.vue == "flux" ? VueGenerateur::flux
                                                 : VueGenerateur::temperature;
-    Sortie sortie(o.communes.out);
-    if (!sortie.ok()) {
-        std::cerr << "kestrel: impossible d'écrire " << o.communes.out << "\n";
-        return SORTIE_ECHEC;
-    }
+    Sortie out(o.communes.out);
+    if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
     const ResultatGenerateur r = etude_generateur(etat);
     if (r.faute.code == CodeErreur::date_cellules) return echec_run(r.faute);
     if (r.alerte_charge) std::cerr << msg::incompat_charge << "\n";
 
     const TableGenerateur& t = r.table(vue);
-    std::ostream& out = sortie.flux();
     out << "date (j),eclipse";
-    for (std::size_t c = 0; c < t.colonnes(); ++c) out << ',' << t.titres[c] << " (" << t.unites[c] << ')';
+    for (std::size_t c = 0; c < t.colonnes(); ++c) out << fmt::format(",{} ({})", t.titres[c], t.unites[c]);
     out << '\n';
     std::string l;
     for (std::size_t i = 0; i < t.lignes(); ++i) {
@@ -114,10 +109,12 @@ int lance_generateur(const OptionsGenerateur& o) {
         l += '\n';
         out << l;
     }
-    out.flush();
     ecrit_resume(r, t);
-    if (r.faute) return echec_run(r.faute);
-    return SORTIE_OK;
+    if (r.faute) {
+        echec_run(r.faute);
+        return termine(out, SORTIE_ECHEC);
+    }
+    return termine(out, SORTIE_OK);
 }
 
 }  // namespace

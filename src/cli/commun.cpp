@@ -8,6 +8,7 @@
 #include "core/project/projet.h"
 #include "core/project/tle.h"
 #include "core/shell/calendrier.h"
+#include "core/shell/periode.h"
 
 namespace kestrel::cli {
 
@@ -24,8 +25,7 @@ void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defau
                     "start date: days since 1950-01-01 or YYYY-MM-DDThh:mm:ss; default: the orbit epoch");
     sub->add_option("--end", o.end, "end date, same forms; default: one orbital period after the epoch");
     sub->add_option("--step", o.step,
-                    fmt::format("step in seconds; default: the project's, {} for a new one", pas_defaut))
-        ->check(CLI::PositiveNumber);
+                    fmt::format("step in seconds; default: the project's, {} for a new one", pas_defaut));
     sub->add_option("--out", o.out, "output file; default: standard output");
 }
 
@@ -55,77 +55,87 @@ std::optional<double> lit_date(const std::string& texte) {
     try {
         std::size_t n = 0;
         double v = std::stod(texte, &n);
-        if (n != texte.size() || !std::isfinite(v) || v < -18262.0 || v > 3000000.0) return std::nullopt;
+        if (n != texte.size() || !std::isfinite(v) || v < JOUR_MIN || v > JOUR_MAX) return std::nullopt;
         return v;
     } catch (...) {
         return std::nullopt;
     }
 }
 
-int prepare_etat(const OptionsCommunes& o, Etat& etat) {
+int prepare_etat(const OptionsCommunes& o, Etat& etat, bool periode) {
     etat.session.dossier_depart = dossier_donnees(dossier_executable());
     auto echec = [](const Erreur& e, const std::string& chemin) {
-        std::cerr << "kestrel: " << chemin << ": " << texte_erreur(e) << "\n";
-        return SORTIE_ECHEC;
+        return signale(texte_lisible(chemin, 300) + ": " + texte_erreur(e), SORTIE_ECHEC);
     };
+    OriginesPeriode origines;
     if (!o.orb.empty()) {
         if (Erreur e = charge_orbite(etat, o.orb)) return echec(e, o.orb);
         periode_par_defaut(etat);
+        origines.moy_mvt = origine_octet(o.orb, 64);
+        origines.debut = "époque de l'orbite, " + origine_octet(o.orb, 72);
+        origines.fin = "une période orbitale après l'époque, " + origine_octet(o.orb, 64);
     }
     if (!o.tle.empty()) {
         std::string nom;
         if (FauteTle f = charge_tle(o.tle, etat.orbite, nom)) {
-            std::cerr << "kestrel: " << o.tle << ": " << texte_faute_tle(f) << "\n";
-            return SORTIE_ECHEC;
+            return signale(texte_lisible(o.tle, 300) + ": " + texte_faute_tle(f), SORTIE_ECHEC);
         }
         periode_par_defaut(etat);
+        origines.moy_mvt = "fichier « " + o.tle + " », ligne 2";
+        origines.debut = "époque de l'orbite, fichier « " + o.tle + " », ligne 1";
+        origines.fin = "une période orbitale après l'époque, fichier « " + o.tle + " », ligne 2";
     }
     if (!o.pwr.empty()) {
         if (Erreur e = charge_energie(etat, o.pwr)) return echec(e, o.pwr);
+        origines.debut = origine_fichier(o.pwr, 277);
+        origines.fin = origine_fichier(o.pwr, 278);
+        origines.pas = origine_fichier(o.pwr, 279);
     }
     if (!o.att.empty()) {
         if (Erreur e = charge_attitude(etat, o.att)) return echec(e, o.att);
     }
-    if (!o.start.empty()) {
-        auto d = lit_date(o.start);
-        if (!d) {
-            std::cerr << "kestrel: --start: date illisible « " << o.start
-                      << " » (jours depuis 1950-01-01 ou AAAA-MM-JJThh:mm:ss)\n";
-            return SORTIE_ARGUMENTS;
-        }
-        etat.session.j_debut = *d;
+    const struct {
+        const std::string& texte;
+        const char* option;
+        double& date;
+        std::string& origine;
+    } dates[] = {{o.start, "--start", etat.session.j_debut, origines.debut},
+                 {o.end, "--end", etat.session.j_fin, origines.fin}};
+    for (const auto& d : dates) {
+        if (d.texte.empty()) continue;
+        auto v = lit_date(d.texte);
+        if (!v)
+            return signale(fmt::format("{} : date illisible « {} » (jours depuis 1950-01-01 ou "
+                                       "AAAA-MM-JJThh:mm:ss)",
+                                       d.option, texte_lisible(d.texte, 40)),
+                           SORTIE_ARGUMENTS);
+        d.date = *v;
+        d.origine = std::string("option ") + d.option;
     }
-    if (!o.end.empty()) {
-        auto d = lit_date(o.end);
-        if (!d) {
-            std::cerr << "kestrel: --end: date illisible « " << o.end
-                      << " » (jours depuis 1950-01-01 ou AAAA-MM-JJThh:mm:ss)\n";
-            return SORTIE_ARGUMENTS;
-        }
-        etat.session.j_fin = *d;
-    }
-    if (etat.session.j_fin < etat.session.j_debut) {
-        std::cerr << "kestrel: la date de fin précède la date de début\n";
-        return SORTIE_ARGUMENTS;
-    }
+    double pas = etat.session.pas_sim;
     if (o.step) {
-        if (*o.step < 1 || *o.step > 86400.0 * 366 || *o.step != std::floor(*o.step)) {
-            std::cerr << "kestrel: --step: un nombre entier de secondes entre 1 et 31622400 est attendu\n";
-            return SORTIE_ARGUMENTS;
-        }
-        etat.session.pas_sim = static_cast<int32_t>(*o.step);
+        pas = *o.step;
+        origines.pas = "option --step";
     }
+    if (Erreur e = verifie_periode(etat.session.j_debut, etat.session.j_fin, pas, etat.orbite.orb_moy_mvt,
+                                   origines);
+        e && periode)
+        return signale(texte_erreur(e), e.origine.rfind("option ", 0) == 0 ? SORTIE_ARGUMENTS : SORTIE_ECHEC);
+    if (pas >= 1 && pas <= PAS_MAX) etat.session.pas_sim = static_cast<int32_t>(pas);
     etat.session.j_courant = etat.session.j_debut;
     return SORTIE_OK;
 }
 
-std::string nombre(double x) { return fmt::format("{:.17g}", x); }
-
-Sortie::Sortie(const std::string& chemin) {
-    if (!chemin.empty()) {
-        fichier_.open(chemin, std::ios::binary);
-        ok_ = fichier_.is_open();
-    }
+int signale(const std::string& message, int code) {
+    std::string l;
+    std::size_t debut = 0;
+    for (std::size_t fin; (fin = message.find('\n', debut)) != std::string::npos; debut = fin + 1)
+        l += texte_lisible(message.substr(debut, fin - debut), 2000) + '\n';
+    l += texte_lisible(message.substr(debut), 2000);
+    std::cerr << "kestrel: " << l << "\n";
+    return code;
 }
+
+std::string nombre(double x) { return fmt::format("{:.17g}", x); }
 
 }  // namespace kestrel::cli

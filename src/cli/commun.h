@@ -3,7 +3,6 @@
 #pragma once
 #include <CLI/CLI.hpp>
 
-#include <fstream>
 #include <functional>
 #include <iostream>
 #include <optional>
@@ -43,9 +42,11 @@ constexpr int SORTIE_OK = 0;
 constexpr int SORTIE_ECHEC = 1;      // a run or a file failed
 constexpr int SORTIE_ARGUMENTS = 2;  // bad arguments
 
-// New-project Etat, then the files, then the period options. On failure prints
-// one line on stderr and returns SORTIE_ECHEC or SORTIE_ARGUMENTS.
-int prepare_etat(const OptionsCommunes& o, Etat& etat);
+// New-project Etat, then the files, then the period options, then the period
+// check (unless periode is false: a command that does not walk the period).
+// On failure prints one line on stderr and returns SORTIE_ECHEC or
+// SORTIE_ARGUMENTS (a refused value that came from an option).
+int prepare_etat(const OptionsCommunes& o, Etat& etat, bool periode = true);
 
 // "12345.5" (day count) or "2001-03-21T13:12:00"; empty when unreadable.
 std::optional<double> lit_date(const std::string& texte);
@@ -53,16 +54,8 @@ std::optional<double> lit_date(const std::string& texte);
 // Number with 17 significant digits (reads back to the same double).
 std::string nombre(double x);
 
-// Standard output, or the --out file. ok() is false when the file did not open.
-class Sortie {
-public:
-    explicit Sortie(const std::string& chemin);
-    std::ostream& flux() { return fichier_.is_open() ? fichier_ : std::cout; }
-    bool ok() const { return ok_; }
-
-private:
-    std::ofstream fichier_;
-    bool ok_ = true;
-};
+// "kestrel: message" on stderr, control characters shown as \xNN (the line
+// breaks of the program's own texts kept). Returns code.
+int signale(const std::string& message, int code);
 
 }  // namespace kestrel::cli

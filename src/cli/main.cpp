@@ -1,4 +1,5 @@
 // kestrel: runs the models without windows, for scripts, tests and benchmarks.
+#include <csignal>
 #include <iostream>
 #include <vector>
 
@@ -6,6 +7,9 @@
 
 int main(int argc, char** argv) {
     using namespace kestrel::cli;
+    // Past a file-size limit a write fails and is reported, instead of the
+    // signal ending the program with the rows unaccounted for.
+    std::signal(SIGXFSZ, SIG_IGN);
     CLI::App app{"KESTREL - small-satellite simulator, command line.\n"
                  "Runs the orbit, power and attitude models over a period and writes CSV."};
     app.set_version_flag("--version", std::string("kestrel ") + KESTREL_VERSION);

@@ -42,12 +42,21 @@ inline fs::path dossier_vide(const std::string& nom) {
     return p;
 }
 
+// `kestrel arguments` with standard output sent to `sortie` (e.g. /dev/full);
+// standard error captured.
+inline Resultat lance_vers(const std::string& arguments, const fs::path& sortie, const std::string& exe = KESTREL_EXE) {
+    const fs::path err = dossier_test() / "stderr.txt";
+    const std::string cmd = "\"" + exe + "\" " + arguments + " > \"" + sortie.string() + "\" 2> \"" + err.string() + "\"";
+    const int s = std::system(cmd.c_str());
+    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, {}, lit_fichier(err)};
+}
+
 // `exe arguments`, both streams captured.
 inline Resultat lance(const std::string& arguments, const std::string& exe = KESTREL_EXE) {
-    const fs::path out = dossier_test() / "stdout.txt", err = dossier_test() / "stderr.txt";
-    const std::string cmd = "\"" + exe + "\" " + arguments + " > \"" + out.string() + "\" 2> \"" + err.string() + "\"";
-    const int s = std::system(cmd.c_str());
-    return {WIFEXITED(s) ? WEXITSTATUS(s) : -1, lit_fichier(out), lit_fichier(err)};
+    const fs::path out = dossier_test() / "stdout.txt";
+    Resultat r = lance_vers(arguments, out, exe);
+    r.out = lit_fichier(out);
+    return r;
 }
 
 inline std::vector<std::string> decoupe(const std::string& texte, char sep) {

@@ -1,5 +1,6 @@
 // The power project (.pwr): 279 positional lines, CR LF, Windows-1252 on disk.
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -79,8 +80,10 @@ Erreur sauve_energie(const Etat& etat, const std::string& chemin) {
     e.detail = chemin;
     const auto octets = vers_cp1252(texte_energie(etat));
     if (!octets) return e;
-    // The previous file goes first, so a failed write leaves no old project behind.
-    if (fichier_existe(chemin)) std::remove(chemin.c_str());
+    // The previous file goes first, so a failed write leaves no old project
+    // behind; only a plain file: a device named as the project stays.
+    std::error_code ec;
+    if (fichier_existe(chemin) && std::filesystem::is_regular_file(chemin, ec)) std::remove(chemin.c_str());
     std::ofstream f(chemin, std::ios::binary | std::ios::trunc);
     if (!f) return e;
     f.write(octets->data(), static_cast<std::streamsize>(octets->size()));

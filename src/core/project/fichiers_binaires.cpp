@@ -75,7 +75,7 @@ Erreur erreur_systeme(CodeErreur code, const std::string& chemin) {
     Erreur e;
     e.code = code;
     const int n = errno;
-    e.detail = chemin + " : " + (n ? std::strerror(n) : "erreur d'entrée/sortie");
+    e.detail = chemin + " : " + cause_systeme(n ? n : EIO);
     return e;
 }
 

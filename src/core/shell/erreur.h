@@ -2,6 +2,7 @@
 // throwing. The core gives a code and its data; texte_erreur() gives the exact
 // French sentence, so the windows and the command line say the same thing.
 #pragma once
+#include <cstddef>
 #include <string>
 
 namespace kestrel {
@@ -23,6 +24,13 @@ enum class CodeErreur {
     faute_calcul,           // any other floating-point fault (detail = where)
     date_cellules,          // start date not after "Date initiale cellules"
     recharge_trop_longue,   // battery study: not full after its cap (detail = hh:mm:ss)
+    // a period refused before the run (detail = which value, valeur, origine)
+    moyen_mouvement,        // orbit mean motion not finite or not positive
+    periode_non_finie,      // a date or the step is NaN or infinite
+    date_hors_limites,      // a date outside 1900 .. year 10163
+    pas_hors_limites,       // step not a whole number of seconds in 1 .. one year
+    fin_avant_debut,        // valeur = end, date = start
+    trop_de_pas,            // valeur = step count, detail = the step in s
 };
 
 struct Erreur {
@@ -30,11 +38,25 @@ struct Erreur {
     std::string detail;  // file name, offending text, solver or field name
     double date = 0.0;   // day count since 1950-01-01 where it applies
     long ligne = 0;      // line number in a text file where it applies
+    double valeur = 0.0; // the refused value where it applies
+    std::string origine = {};  // where the refused value came from (file and line, option)
 
     explicit operator bool() const { return code != CodeErreur::aucune; }
 };
 
-// The French text shown to the user for this failure.
+// The French text shown to the user for this failure. Texts that came from
+// outside (file names, file contents) pass through texte_lisible.
 std::string texte_erreur(const Erreur& e);
+
+// A text fit for a message line: control characters and DEL as \xNN, cut to
+// at most `max` bytes with "…" (a whole file line could be a megabyte).
+std::string texte_lisible(const std::string& s, std::size_t max = 120);
+
+// A system error number in our words (the system's own are English).
+std::string cause_systeme(int numero);
+
+// A number for a message: whole numbers in full up to 15 digits, others
+// with 10 significant digits at most; "nan", "inf".
+std::string nombre_lisible(double x);
 
 }  // namespace kestrel

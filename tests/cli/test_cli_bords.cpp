@@ -1,0 +1,143 @@
+// Values at the edges, from files and from options: each one is refused before
+// the run with the value and where it came from, never a hang, never an empty
+// success. Malformed files are new-project files patched at the documented
+// place: .orb mean motion at byte 64 (f64, little-endian), .pwr line 278 (end
+// date) and 279 (step) of the 279 CR LF lines.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+#include "cli/outils_cli.h"
+
+using namespace kestrel::test;
+
+namespace {
+
+// The new project's files, written once per process.
+const fs::path& projet_neuf() {
+    static const fs::path d = [] {
+        const fs::path p = dossier_vide("neuf");
+        lance("project new --pwr " + (p / "n.pwr").string() + " --att " + (p / "n.att").string() + " --orb " +
+              (p / "n.orb").string());
+        return p;
+    }();
+    return d;
+}
+
+// The new-project file with 8 bytes at `offset` replaced by x.
+fs::path binaire_avec(const std::string& nom, const std::string& modele, std::size_t offset, double x) {
+    std::string octets = lit_fichier(projet_neuf() / modele);
+    const auto b = std::bit_cast<std::uint64_t>(x);
+    for (int i = 0; i < 8; ++i) octets[offset + i] = static_cast<char>(b >> (8 * i));
+    const fs::path p = dossier_test() / nom;
+    std::ofstream(p, std::ios::binary) << octets;
+    return p;
+}
+
+// The new .pwr with line `n` (from 1) replaced by `texte`.
+fs::path pwr_avec(const std::string& nom, int n, const std::string& texte) {
+    std::string t = lit_fichier(projet_neuf() / "n.pwr");
+    std::size_t debut = 0;
+    for (int i = 1; i < n; ++i) debut = t.find("\r\n", debut) + 2;
+    t.replace(debut, t.find("\r\n", debut) - debut, texte);
+    const fs::path p = dossier_test() / nom;
+    std::ofstream(p, std::ios::binary) << t;
+    return p;
+}
+
+struct Cas {
+    std::string arguments;
+    int code;
+    std::string message;  // a part of stderr
+    std::string sortie = "";  // where standard output goes; empty: captured
+};
+
+void verifie(const Cas& c) {
+    const Resultat r = c.sortie.empty() ? lance(c.arguments) : lance_vers(c.arguments, c.sortie);
+    EXPECT_EQ(r.code, c.code) << c.arguments << "\n" << r.err;
+    EXPECT_NE(r.err.find(c.message), std::string::npos) << c.arguments << "\n" << r.err;
+    // one message, on one line
+    const auto m = r.err.find("kestrel: ");
+    EXPECT_EQ(r.err.find("kestrel: ", m + 1), std::string::npos) << r.err;
+    EXPECT_EQ(r.err.find('\n', m), r.err.size() - 1) << r.err;
+}
+
+}  // namespace
+
+TEST(CliBords, MoyenMouvementDuFichierOrbite) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const std::string o0 = binaire_avec("zero.orb", "n.orb", 64, 0.0).string(),
+                      opetit = binaire_avec("petit.orb", "n.orb", 64, 1e-300).string(),
+                      onan = binaire_avec("nan.orb", "n.orb", 64, nan).string();
+    const std::string refus = "Orbite refusée : moyen mouvement ";
+    for (const Cas& c : std::initializer_list<Cas>{
+             {"orbit --orb " + o0, 1, refus + "0 tours/jour (fichier « " + o0 + " », octet 64)"},
+             {"power --summary --orb " + o0, 1, refus + "0 tours/jour"},
+             {"orbit --orb " + onan, 1, refus + "nan tours/jour"},
+             {"attitude --quiet --out /dev/null --orb " + onan, 1, refus + "nan"},
+             {"power --summary --orb " + onan, 1, refus + "nan"},
+             // 1 / 1e-300 days of orbit: the end date is 1e300 days away
+             {"orbit --orb " + opetit, 1, "date de fin 1e+300 (une période orbitale après l'époque, fichier « " +
+                                              opetit + " », octet 64)"},
+         })
+        verifie(c);
+}
+
+TEST(CliBords, PasEtFinDuFichierEnergie) {
+    const std::string pas = "Pas de simulation refusé : ";
+    struct Ligne { int n; std::string texte, attendu; };
+    for (const Ligne& l : std::initializer_list<Ligne>{{279, " 2147483647 ", pas + "2147483647 s"},
+                                                       {279, " 1000000000 ", pas + "1000000000 s"},
+                                                       {279, " 0 ", pas + "0 s"},
+                                                       {279, "-60 ", pas + "-60 s"},
+                                                       {278, "1E+30", "date de fin 1e+30"}}) {
+        const std::string f = pwr_avec("p.pwr", l.n, l.texte).string();
+        const std::string ou = "(fichier « " + f + " », ligne " + std::to_string(l.n) + ")";
+        verifie({"power --summary --pwr " + f, 1, l.attendu});
+        verifie({"attitude --quiet --out /dev/null --pwr " + f, 1, ou});
+    }
+}
+
+TEST(CliBords, PeriodeDesOptions) {
+    for (const Cas& c : std::initializer_list<Cas>{
+             {"power --step 0", 2, "Pas de simulation refusé : 0 s (option --step) ; un nombre entier de secondes "
+                                   "entre 1 et 31622400 (un an) est attendu"},
+             {"orbit --step 1.5", 2, "1.5 s (option --step)"},
+             {"orbit --step nan", 2, "pas nan (option --step) ; un nombre fini est attendu"},
+             // 1999-01-01 is day 49 x 365 + 12 leap days = 17897; 102 days later, 13 April
+             {"orbit --start 18000 --end 17999", 2, "la date de fin 13/04/1999 00:00:00 (jour 17999.000000) "
+                                                    "(option --end) précède la date de début 14/04/1999"},
+             // 1950 to year 10163 by 1 s: 3e6 days x 86400 s is 2.592e11 steps, plus the first date
+             {"orbit --start 0 --end 3000000 --step 1", 2, "259200000001 pas de 1 s (option --step) ; au plus "
+                                                           "100000000 pas par simulation"},
+         })
+        verifie(c);
+}
+
+TEST(CliBords, DisquePleinSignalePourChaqueSousCommande) {
+    // /dev/full takes the open and refuses every write with "no space left".
+    const std::string att = (projet_neuf() / "n.att").string();
+    const std::string plein = "plus de place sur le disque";
+    for (const Cas& c : std::initializer_list<Cas>{
+             {"orbit --out /dev/full", 1, "erreur d'écriture dans « /dev/full » : " + plein},
+             {"orbit", 1, "erreur d'écriture dans la sortie standard : " + plein, "/dev/full"},
+             {"power --end 18707.6 --out /dev/full", 1, "« /dev/full » : " + plein},
+             {"power --end 18707.6", 1, "la sortie standard : " + plein, "/dev/full"},
+             {"power --end 18707.6 --summary", 1, "la sortie standard : " + plein, "/dev/full"},
+             {"project show " + att, 1, "la sortie standard : " + plein, "/dev/full"},
+             {"attitude --quiet --end 18707.6 --out /dev/full", 1,
+              "Impossible d'écrire le fichier de résultats : /dev/full"},
+             {"study battery", 1, "la sortie standard : " + plein, "/dev/full"},
+             {"study generator --end 18707.6 --out /dev/full", 1, "« /dev/full » : " + plein},
+             {"project new --att /dev/full", 1, "/dev/full : " + plein},
+             {"project new --orb /dev/full", 1, "/dev/full : " + plein},
+         })
+        verifie(c);
+    // The .pwr writer deletes an old project first, but never a device.
+    const Resultat r = lance("project new --pwr /dev/full");
+    EXPECT_EQ(r.code, 1);
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
