@@ -132,6 +132,8 @@ TEST(CliBords, DisquePleinSignalePourChaqueSousCommande) {
               "Impossible d'écrire le fichier de résultats : /dev/full"},
              {"study battery", 1, "la sortie standard : " + plein, "/dev/full"},
              {"study generator --end 18707.6 --out /dev/full", 1, "« /dev/full » : " + plein},
+             {"exploit power --quiet --var \"Batterie Courant (A)\" --end 18707.6", 1,
+              "la sortie standard : " + plein, "/dev/full"},
              {"project new --att /dev/full", 1, "/dev/full : " + plein},
              {"project new --orb /dev/full", 1, "/dev/full : " + plein},
          })
