@@ -95,11 +95,14 @@ Commande enregistre_attitude(CLI::App& app) {
     ajoute_options_communes(c.app, o->com, 10);
     c.app->get_option("--out")->description("results file; default: temp/temp.tmp beside the program");
     c.app->add_option("--every", o->every, "write a record every N steps (default 1)")
+        ->check(nombres_finis())
         ->check(CLI::Range(1.0, 32767.0));
     c.app->add_option("--rates", o->rates, "initial body rates psi,theta,phi in deg/s")
+        ->check(nombres_finis())
         ->delimiter(',')
         ->expected(1, 3);
     c.app->add_option("--pointing", o->pointing, "pointing roll,pitch,yaw in degrees")
+        ->check(nombres_finis())
         ->delimiter(',')
         ->expected(1, 3);
     c.app->add_flag("--quiet", o->quiet, "no progress line");

@@ -150,8 +150,9 @@ Commande enregistre_power(CLI::App& app) {
     c.app = app.add_subcommand("power", "Power system: one power_step per date, CSV rows");
     ajoute_options_communes(c.app, o->communes);
     c.app->add_flag("--eol", o->eol, "end-of-life cell values (\"EOL\")");
-    c.app->add_option("--pointing", o->pointage, "initial roll,pitch,yaw in degrees (yaw = initial spin angle)");
-    c.app->add_option("--spin", o->spin, "spin rate, turns per minute");
+    c.app->add_option("--pointing", o->pointage, "initial roll,pitch,yaw in degrees (yaw = initial spin angle)")
+        ->check(nombres_finis());
+    c.app->add_option("--spin", o->spin, "spin rate, turns per minute")->check(nombres_finis());
     c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
     c.lance = [o] { return lance_power(*o); };
     return c;

@@ -1,6 +1,9 @@
 #include "cli/commun.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 #include <fmt/format.h>
@@ -11,6 +14,25 @@
 #include "core/shell/periode.h"
 
 namespace kestrel::cli {
+
+const CLI::Validator& nombres_finis() {
+    static const CLI::Validator v(
+        [](std::string& texte) -> std::string {
+            std::size_t debut = 0;
+            while (true) {
+                const std::size_t fin = std::min(texte.find(',', debut), texte.size());
+                const std::string morceau = texte.substr(debut, fin - debut);
+                char* reste = nullptr;
+                const double x = std::strtod(morceau.c_str(), &reste);
+                if (morceau.empty() || *reste != '\0' || !std::isfinite(x))
+                    return "« " + texte_lisible(morceau, 40) + " » : un nombre fini est attendu";
+                if (fin == texte.size()) return {};
+                debut = fin + 1;
+            }
+        },
+        "NOMBRE");
+    return v;
+}
 
 void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defaut) {
     sub->add_option("--pwr", o.pwr, "power project (.pwr); default: a new project");
@@ -25,7 +47,8 @@ void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defau
                     "start date: days since 1950-01-01 or YYYY-MM-DDThh:mm:ss; default: the orbit epoch");
     sub->add_option("--end", o.end, "end date, same forms; default: one orbital period after the epoch");
     sub->add_option("--step", o.step,
-                    fmt::format("step in seconds; default: the project's, {} for a new one", pas_defaut));
+                    fmt::format("step in seconds; default: the project's, {} for a new one", pas_defaut))
+        ->check(nombres_finis());
     sub->add_option("--out", o.out, "output file; default: standard output");
 }
 

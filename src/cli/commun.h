@@ -34,6 +34,11 @@ struct OptionsCommunes {
     std::string out;            // output file; empty: standard output
 };
 
+// Numbers written as the option's value, comma-separated where several are
+// given: each must read whole as a finite number (nan and inf are refused at
+// parsing, with a French line).
+const CLI::Validator& nombres_finis();
+
 // Adds --pwr --att --orb (or --tle) --start --end --step --out to a sub-command.
 void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defaut = 120);
 

@@ -28,8 +28,7 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& e) {
         std::string m = e.what();
         if (m.empty()) m = "bad arguments";
-        std::cerr << "kestrel: " << m << " (kestrel --help)\n";
-        return SORTIE_ARGUMENTS;
+        return signale(m + " (kestrel --help)", SORTIE_ARGUMENTS);
     }
     for (auto& c : commandes) {
         if (c.app->parsed()) return c.lance();

@@ -106,7 +106,6 @@ TEST(CliBords, PeriodeDesOptions) {
              {"power --step 0", 2, "Pas de simulation refusé : 0 s (option --step) ; un nombre entier de secondes "
                                    "entre 1 et 31622400 (un an) est attendu"},
              {"orbit --step 1.5", 2, "1.5 s (option --step)"},
-             {"orbit --step nan", 2, "pas nan (option --step) ; un nombre fini est attendu"},
              // 1999-01-01 is day 49 x 365 + 12 leap days = 17897; 102 days later, 13 April
              {"orbit --start 18000 --end 17999", 2, "la date de fin 13/04/1999 00:00:00 (jour 17999.000000) "
                                                     "(option --end) précède la date de début 14/04/1999"},
@@ -142,4 +141,17 @@ TEST(CliBords, DisquePleinSignalePourChaqueSousCommande) {
     const Resultat r = lance("project new --pwr /dev/full");
     EXPECT_EQ(r.code, 1);
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST(CliBords, NombresNonFinisRefusesALaLecture) {
+    const std::string fini = " : un nombre fini est attendu";
+    for (const Cas& c : std::initializer_list<Cas>{
+             {"power --spin nan", 2, "--spin: « nan »" + fini},
+             {"power --pointing nan,0,0", 2, "--pointing: « nan »" + fini},
+             {"attitude --rates 1,inf,0", 2, "--rates: « inf »" + fini},
+             {"orbit --step -inf", 2, "--step: « -inf »" + fini},
+             // a control character in an argument is shown escaped, on the same line
+             {"power --spin \"$(printf '1\\033')\"", 2, "--spin: « 1\\x1b »" + fini},
+         })
+        verifie(c);
 }
