@@ -36,4 +36,28 @@ void periode_par_defaut(Etat& etat);
 // Records the first fault only; later ones are consequences.
 void signale_faute(Etat& etat, CodeErreur code, double date, const char* detail);
 
+// The orbit spine and the frame turns under the names the models and windows
+// use: each reads etat.orbite and etat.pointage, writes etat.orb and records a
+// fault in etat.faute.
+// Every field of etat.orb but the ground point, at date j.
+void orb_position(Etat& etat, double j);
+// Angles in degrees, d = epoch day from 0 (see orb_trajecto.h).
+void orb_kepler(Etat& etat, double j, double a, double e, double i, double w, double om, double m0,
+                double d, int an);
+// Called on its own it has no date: a fault is dated with the step in progress.
+void orb_cartesien(Etat& etat, double a, double e, double i, double w, double om, double& m);
+// Earth centre to Sun at j, into etat.orb.soleil_pos.
+void soleil_position(Etat& etat, double j);
+// Ground point of pos (km, inertial) at j.
+void sous_point(Etat& etat, double j, const Vec3& pos, double& lon, double& lat, double& alt);
+// orb_position and the ground point into etat.orb: the orbit state at j.
+void orbite_a_date(Etat& etat, double j);
+
+// The turns of matrices.h with the orbit, satellite and pointing of etat.
+void inertiel_vers_corps(const Etat& etat, const Vec3& v, Vec3& r);
+void corps_vers_inertiel(const Etat& etat, const Vec3& v, Vec3& r);
+void vers_orbital_u(const Etat& etat, Vec3& v);
+double argument_latitude(const Etat& etat);
+void euler_vers_inertiel(const Etat& etat, const Vec3& a, Vec3& b, Vec3& c);
+
 }  // namespace kestrel

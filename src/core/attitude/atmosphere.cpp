@@ -9,7 +9,7 @@
 #include <memory>
 #include <mutex>
 
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 #include "core/orbit/orb_projection.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/types.h"

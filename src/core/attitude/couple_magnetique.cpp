@@ -3,7 +3,7 @@
 #include "core/attitude/champ_igrf.h"
 #include "core/attitude/couples.h"
 #include "core/etat.h"
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"
 

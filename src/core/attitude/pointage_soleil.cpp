@@ -2,7 +2,7 @@
 
 #include "core/attitude/attitude_init.h"
 #include "core/etat.h"
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"
 

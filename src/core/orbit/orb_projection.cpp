@@ -5,7 +5,6 @@
 
 #include <cmath>
 
-#include "core/etat.h"
 #include "core/shell/types.h"
 
 namespace kestrel {
@@ -48,8 +47,6 @@ Vec3 soleil_vecteur(double j) {
     const double z = se * sl;
     return Vec3{R * x, R * y, R * z};
 }
-
-void soleil_position(Etat& etat, double j) { etat.orb.soleil_pos = soleil_vecteur(j); }
 
 double temps_sideral(double j) {
     const double d = j - 11689.0;
@@ -120,11 +117,11 @@ bool cart_vers_geodesique(const Vec3& P, double& lon, double& lat, double& alt) 
     return false;
 }
 
-void sous_point(Etat& etat, double j, const Vec3& pos, double& lon, double& lat, double& alt) {
+void sous_point(double j, const Vec3& pos, double& lon, double& lat, double& alt, Erreur& faute) {
     Vec3 X;
     vers_terrestre(j, pos, X);
     if (!cart_vers_geodesique(X, lon, lat, alt))
-        signale_faute(etat, CodeErreur::non_convergence, j, "latitude géodésique");
+        signale_faute(faute, CodeErreur::non_convergence, j, "latitude géodésique");
 }
 
 }  // namespace kestrel

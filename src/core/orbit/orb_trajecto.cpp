@@ -1,4 +1,4 @@
-// Keplerian propagation from the mean elements of etat.orbite: only the mean
+// Keplerian propagation from the mean elements of the orbit: only the mean
 // anomaly advances, linearly from the epoch, so each call depends on the date
 // alone. Inertial frame of 1950, km, km/s; the shadow is a cone test against
 // an Earth of 6428 km with a point Sun.
@@ -9,8 +9,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/etat.h"
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 #include "core/orbit/orb_projection.h"
 
 namespace kestrel {
@@ -35,7 +34,8 @@ bool memes_cles(const std::array<uint64_t, N>& a, const std::array<uint64_t, N>&
 
 // Kepler's equation by Newton from E = m, then position and velocity. Returns
 // false when the loop passed its cap (the vectors then come from the last pass).
-bool cartesien(Etat& etat, double j, double a, double e, double i, double w, double om, double& m) {
+bool cartesien(SortiesOrbite& so, Erreur& faute, double j, double a, double e, double i, double w,
+               double om, double& m) {
     m = m - 2.0 * std::floor(m / DEUX_PI) * PI;
 
     double E = m;
@@ -49,10 +49,10 @@ bool cartesien(Etat& etat, double j, double a, double e, double i, double w, dou
             break;
         }
     }
-    if (!converge) signale_faute(etat, CodeErreur::non_convergence, j, "équation de Kepler");
+    if (!converge) signale_faute(faute, CodeErreur::non_convergence, j, "équation de Kepler");
     m = E;
 
-    MemoireOrbite& mem = etat.orb.memoire;
+    MemoireOrbite& mem = so.memoire;
     const std::array<uint64_t, 5> cle{bits(a), bits(e), bits(i), bits(w), bits(om)};
     if (!mem.plan_valide || !memes_cles(mem.cle_plan, cle)) {
         const double cw = std::cos(w), sw = std::sin(w), co = std::cos(om), so = std::sin(om);
@@ -69,13 +69,13 @@ bool cartesien(Etat& etat, double j, double a, double e, double i, double w, dou
     const double Qx = mem.Q[0], Qy = mem.Q[1], Qz = mem.Q[2];
     const double s = mem.s;
     const double cE = std::cos(E), sE = std::sin(E);
-    Vec3& p = etat.orb.sat_pos;
+    Vec3& p = so.sat_pos;
     p[0] = a * ((cE - e) * Px + s * sE * Qx);
     p[1] = a * ((cE - e) * Py + s * sE * Qy);
     p[2] = a * ((cE - e) * Pz + s * sE * Qz);
 
     const double Ep = mem.n_plan / (1.0 - e * cE);
-    Vec3& v = etat.orb.sat_vit;
+    Vec3& v = so.sat_vit;
     v[0] = a * Ep * (s * cE * Qx - sE * Px);
     v[1] = a * Ep * (s * cE * Qy - sE * Py);
     v[2] = a * Ep * (s * cE * Qz - sE * Pz);
@@ -91,19 +91,19 @@ double ascension_1950(const Orbite& o, double om) {
     return r;
 }
 
-// Called on its own it has no date: a fault is dated with the step in progress.
-void orb_cartesien(Etat& etat, double a, double e, double i, double w, double om, double& m) {
-    cartesien(etat, etat.session.j_courant, a, e, i, w, om, m);
+void orb_cartesien(SortiesOrbite& s, Erreur& faute, double j, double a, double e, double i, double w,
+                   double om, double& m) {
+    cartesien(s, faute, j, a, e, i, w, om, m);
 }
 
-void orb_kepler(Etat& etat, double j, double a, double e, double i, double w, double om, double m0,
-                double d, int an) {
+void orb_kepler(SortiesOrbite& s, Erreur& faute, double j, double a, double e, double i, double w,
+                double om, double m0, double d, int an) {
     i *= DEG_RAD;
     w *= DEG_RAD;
     om *= DEG_RAD;
     m0 *= DEG_RAD;
 
-    MemoireOrbite& mem = etat.orb.memoire;
+    MemoireOrbite& mem = s.memoire;
     const std::array<uint64_t, 3> cle{bits(a), bits(d), static_cast<uint64_t>(static_cast<int64_t>(an))};
     if (!mem.kepler_valide || !memes_cles(mem.cle_kepler, cle)) {
         // Epoch as a day count, by four-year blocks from 1900 (every fourth
@@ -121,22 +121,20 @@ void orb_kepler(Etat& etat, double j, double a, double e, double i, double w, do
     }
     double m = mem.n * (j - mem.t0) * SECONDES_JOUR + m0;
     m = modulo(m, DEUX_PI);
-    etat.orb.anomalie_moy = m;
-    cartesien(etat, j, a, e, i, w, om, m);
+    s.anomalie_moy = m;
+    cartesien(s, faute, j, a, e, i, w, om, m);
 }
 
-void orb_position(Etat& etat, double j) {
-    soleil_position(etat, j);
+void orb_position(const Orbite& o, double j, SortiesOrbite& s, Erreur& faute) {
+    s.soleil_pos = soleil_vecteur(j);
 
-    const Orbite& o = etat.orbite;
     // Copies only: a circular equatorial orbit still gets a defined node and perigee.
     const double i = o.orb_inclinaison == 0.0 ? 5e-06 : o.orb_inclinaison;
     const double e = o.orb_excentricite == 0.0 ? 1e-07 : o.orb_excentricite;
     const double d = o.orb_jour - 1.0;
     const double om = ascension_1950(o, o.orb_ascension);
-    orb_kepler(etat, j, o.orb_demi, e, i, o.orb_argument, om, o.orb_anomalie, d, o.orb_an);
+    orb_kepler(s, faute, j, o.orb_demi, e, i, o.orb_argument, om, o.orb_anomalie, d, o.orb_an);
 
-    SortiesOrbite& s = etat.orb;
     const Vec3& p = s.sat_pos;
     const double r2 = p[0] * p[0] + p[1] * p[1] + p[2] * p[2];
     const double r = std::sqrt(r2);
@@ -154,11 +152,17 @@ void orb_position(Etat& etat, double j) {
     if (!(sous >= 0.0)) {
         // Inside the shadow radius (or no position at all): no cone to test.
         s.eclipse = FAUX;
-        signale_faute(etat, CodeErreur::sous_rayon_ombre, j, "");
+        signale_faute(faute, CodeErreur::sous_rayon_ombre, j, "");
         return;
     }
     const double k = std::sqrt(sous) / r;
     s.eclipse = k < c ? VRAI : FAUX;
+}
+
+void orbite_a_date(const Orbite& o, double j, SortiesOrbite& s, Erreur& faute) {
+    orb_position(o, j, s, faute);
+    const Vec3 pos = s.sat_pos;
+    sous_point(j, pos, s.sat_lon, s.sat_lat, s.sat_alt, faute);
 }
 
 }  // namespace kestrel

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "core/etat.h"
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_trajecto.h"
 #include "core/shell/calendrier.h"

@@ -60,6 +60,13 @@ std::string texte_lisible(const std::string& s, std::size_t max) {
     return r;
 }
 
+void signale_faute(Erreur& faute, CodeErreur code, double date, const char* detail) {
+    if (faute) return;
+    faute.code = code;
+    faute.date = date;
+    faute.detail = detail ? detail : "";
+}
+
 std::string texte_erreur(const Erreur& e) {
     const std::string detail = texte_lisible(e.detail);
     const std::string origine = texte_lisible(e.origine, 300);

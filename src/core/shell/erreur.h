@@ -44,6 +44,10 @@ struct Erreur {
     explicit operator bool() const { return code != CodeErreur::aucune; }
 };
 
+// Records a fault of a run in `faute` unless one is already there: the first
+// fault is the cause, later ones its consequences.
+void signale_faute(Erreur& faute, CodeErreur code, double date, const char* detail);
+
 // The French text shown to the user for this failure. Texts that came from
 // outside (file names, file contents) pass through texte_lisible.
 std::string texte_erreur(const Erreur& e);

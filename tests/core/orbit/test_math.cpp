@@ -6,7 +6,7 @@
 #include <limits>
 #include <utility>
 
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 #include "core/shell/types.h"
 
 using namespace kestrel;

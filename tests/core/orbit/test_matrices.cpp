@@ -7,9 +7,15 @@
 #include <vector>
 
 #include "core/etat.h"
+#include "core/math/lineaire.h"
 #include "core/orbit/matrices.h"
 
 using namespace kestrel;
+
+// The run-state forms of the turns, picked out of their overloads.
+void (*const vers_corps_etat)(const Etat&, const Vec3&, Vec3&) = inertiel_vers_corps;
+void (*const depuis_corps_etat)(const Etat&, const Vec3&, Vec3&) = corps_vers_inertiel;
+void (*const vers_orbital_u_etat)(const Etat&, Vec3&) = vers_orbital_u;
 using testing::DoubleNear, testing::Each, testing::Pointwise;
 
 constexpr double PRECIS = 1e-12;
@@ -79,17 +85,17 @@ TEST(Reperes, InertielEtCorpsLacetCompteDeuxFois) {
     Etat e;
     e.orbite = {.orb_an = 1950, .orb_jour = 1.0};
     e.orb.sat_pos = Vec3{7000.0, 0.0, 0.0};
-    attend_vec(res(inertiel_vers_corps, e, Vec3{1, 2, 3}), {2, 3, 1});  // (y, z, x) with no pointing
-    attend_vec(res(corps_vers_inertiel, e, Vec3{2, 3, 1}), {1, 2, 3});
+    attend_vec(res(vers_corps_etat, e, Vec3{1, 2, 3}), {2, 3, 1});  // (y, z, x) with no pointing
+    attend_vec(res(depuis_corps_etat, e, Vec3{2, 3, 1}), {1, 2, 3});
     e.pointage.phi = 90.0;  // roll: no effect in this direction
-    attend_vec(res(inertiel_vers_corps, e, Vec3{1, 2, 3}), {2, 3, 1});
+    attend_vec(res(vers_corps_etat, e, Vec3{1, 2, 3}), {2, 3, 1});
     // but undone on the way back: body (2, 3, 1) -> local (2, -1, 3) -> inertial (3, 2, -1)
-    attend_vec(res(corps_vers_inertiel, e, Vec3{2, 3, 1}), {3, 2, -1});
+    attend_vec(res(depuis_corps_etat, e, Vec3{2, 3, 1}), {3, 2, -1});
     // yaw 90 is also applied as roll 90: local (2, 3, 1) -> yaw -> (3, -2, 1)
     // -> roll -> (3, 1, 2)
     e.pointage.phi = 0.0;
     e.pointage.psi = 90.0;
-    attend_vec(res(inertiel_vers_corps, e, Vec3{1, 2, 3}), {3, 1, 2});
+    attend_vec(res(vers_corps_etat, e, Vec3{1, 2, 3}), {3, 1, 2});
 }
 
 TEST(Reperes, OrbitalSansCorrectionEtArgumentDeLatitude) {
@@ -102,7 +108,7 @@ TEST(Reperes, OrbitalSansCorrectionEtArgumentDeLatitude) {
     // rows (0,0,1), (0,1,0), (-1,0,0)
     e.orbite.orb_argument = 90.0;
     e.orb.anomalie_moy = 0.0;
-    attend_vec(sur_place(vers_orbital_u, e), {3, 2, -1});
+    attend_vec(sur_place(vers_orbital_u_etat, e), {3, 2, -1});
     // anomalie_moy = 90 taken once more as degrees: m = pi/2, E = m (e = 0),
     // nu = 2 atan(tan(pi/4)) = pi/2; perigee argument 10 deg
     e.orbite.orb_argument = 10.0;

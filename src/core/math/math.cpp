@@ -1,7 +1,7 @@
 // Scalar helpers, the second Kepler solver and the angle guard. Angles in
 // radians. The constants are the program's own digits (types.h), not the
 // exact values of the standard library: results must match to the last bit.
-#include "core/orbit/math.h"
+#include "core/math/math.h"
 
 #include <cmath>
 
