@@ -5,7 +5,7 @@
 #include <QLineSeries>
 #include <QValueAxis>
 
-#include "core/orbit/rayonnement_terre.h"
+#include "core/power/rayonnement_terre.h"
 #include "core/power/power_record.h"
 
 namespace kestrel::gui {

@@ -4,7 +4,7 @@
 
 #include "core/attitude/attitude_init.h"
 #include "core/etat.h"
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 #include "orbit/orbito_commun.h"
 #include "shell/dialogues.h"
 #include "ui_orbito_attitude.h"

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 
 #include "core/shell/format_image.h"
 #include "shell/saisie.h"

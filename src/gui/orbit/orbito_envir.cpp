@@ -1,8 +1,8 @@
 #include "orbit/orbito_envir.h"
 
 #include "core/etat.h"
-#include "core/orbit/albedo_sinus.h"
-#include "core/orbit/rayonnement_terre.h"
+#include "core/power/albedo_sinus.h"
+#include "core/power/rayonnement_terre.h"
 #include "orbit/env_graph1.h"
 #include "orbit/orbito_commun.h"
 #include "shell/dialogues.h"

@@ -10,7 +10,7 @@
 
 #include "core/etat.h"
 #include "core/orbit/elements_orbite.h"
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 #include "core/project/projet.h"
 #include "core/project/tle.h"
 #include "core/shell/calendrier.h"

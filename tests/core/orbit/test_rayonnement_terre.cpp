@@ -5,8 +5,8 @@
 #include <cmath>
 #include <string>
 
-#include "core/orbit/albedo_sinus.h"
-#include "core/orbit/rayonnement_terre.h"
+#include "core/power/albedo_sinus.h"
+#include "core/power/rayonnement_terre.h"
 #include "core/power/power_record.h"
 
 using namespace kestrel;

@@ -9,7 +9,7 @@
 #include "core/attitude/attitude_init.h"
 #include "core/etat.h"
 #include "core/orbit/elements_orbite.h"
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 
 using namespace kestrel;
 

@@ -1,4 +1,4 @@
-#include "core/orbit/rayonnement_terre.h"
+#include "core/power/rayonnement_terre.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
-#include "core/orbit/albedo_sinus.h"
+#include "core/power/albedo_sinus.h"
 
 #include <cmath>
 
-#include "core/orbit/rayonnement_terre.h"
+#include "core/power/rayonnement_terre.h"
 #include "core/power/power_record.h"
 
 namespace kestrel {

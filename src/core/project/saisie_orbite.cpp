@@ -1,4 +1,4 @@
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 
 #include <cmath>
 
