@@ -121,8 +121,7 @@ Commande enregistre_orbit(CLI::App& app) {
         out << ENTETE << '\n';
         parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
             etat.session.j_courant = j;
-            orb_position(etat, j);
-            sous_point(etat, j, etat.orb.sat_pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
+            orbite_a_date(etat, j);
             if (!etat.faute) verifie_fini(etat, j);
             if (etat.faute) return false;
             ecrit_ligne(out, j, etat.orb);

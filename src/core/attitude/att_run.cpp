@@ -1,6 +1,8 @@
 #include "core/attitude/att_run.h"
 
+#include <bit>
 #include <charconv>
+#include <cstdint>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -12,8 +14,6 @@
 #include "core/attitude/attitude_step.h"
 #include "core/shell/dossiers.h"
 #include "core/etat.h"
-#include "core/orbit/orb_projection.h"
-#include "core/orbit/orb_trajecto.h"
 
 namespace kestrel {
 
@@ -161,6 +161,11 @@ std::string chemin_resultats(const std::string& dossier_depart) {
     return {};
 }
 
+void pas_run(Etat& etat, double dt, double date, double& date_orbite) {
+    if (std::bit_cast<uint64_t>(date) != std::bit_cast<uint64_t>(date_orbite)) orbite_a_date(etat, date);
+    date_orbite = attitude_step(etat, dt, date) ? dt / 86400.0 + date : date;
+}
+
 BilanRun att_run(Etat& etat, const ParametresRun& p) {
     BilanRun bilan;
     AttitudeRecord& a = etat.att;
@@ -204,11 +209,9 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
     const double tous = std::nearbyint(p.pas_ecriture);
     int16_t compteur = 0;
     double dt = pas * 86400;
+    double date_orbite = std::nan("");
     while (j <= fin) {
-        orb_position(etat, j);
-        const Vec3 pos = etat.orb.sat_pos;
-        sous_point(etat, j, pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
-        attitude_step(etat, dt, j);
+        pas_run(etat, dt, j, date_orbite);
         ++bilan.pas;
 
         if (etat.faute) {

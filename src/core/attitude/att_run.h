@@ -41,4 +41,11 @@ std::string chemin_resultats(const std::string& dossier_depart);
 // the first numerical fault or non-finite state, reporting its date.
 BilanRun att_run(Etat& etat, const ParametresRun& p);
 
+// One step of the run at `date` (days), dt in s: the orbit is brought to
+// `date` unless the step before left it there (date_orbite: the date etat.orb
+// stands at, NaN when unknown; updated), then attitude_step. The step ends
+// with the orbit at its end date, which is the next step's date whenever the
+// two sums agree to the bit: the orbit is then propagated once a step.
+void pas_run(Etat& etat, double dt, double date, double& date_orbite);
+
 }  // namespace kestrel

@@ -9,8 +9,6 @@
 #include "core/math/lineaire.h"
 #include "core/math/math.h"
 #include "core/orbit/matrices.h"
-#include "core/orbit/orb_projection.h"
-#include "core/orbit/orb_trajecto.h"
 
 namespace kestrel {
 
@@ -197,7 +195,7 @@ double taux_differences(double y, double q, double dt) {
     return (y - q) / dt;
 }
 
-void attitude_step(Etat& etat, double dt, double date) {
+bool attitude_step(Etat& etat, double dt, double date) {
     AttitudeRecord& a = etat.att;
     quat_refresh(etat);
     total_torque(etat, date);
@@ -226,7 +224,7 @@ void attitude_step(Etat& etat, double dt, double date) {
         for (int j = 0; j < n; ++j)
             Ar[i + n * j] = M[red.lignes[static_cast<std::size_t>(i)]][red.colonnes[static_cast<std::size_t>(j)]];
     }
-    if (resout_lineaire(n, Ar, br, x) == -1) return;  // singular: the state stays, next step retries
+    if (resout_lineaire(n, Ar, br, x) == -1) return false;  // singular: the state stays
 
     for (int i = 0; i < 3; ++i) a.omega[3 + i] = x[i];
     a.zdd = {};
@@ -249,10 +247,7 @@ void attitude_step(Etat& etat, double dt, double date) {
     a.omd[1] = -a.omega[4];
     a.omd[1] = -a.omega[5];  // written twice; omd(2) keeps its initial value
 
-    double date2 = dt / 86400.0 + date;
-    orb_position(etat, date2);
-    const Vec3 pos = etat.orb.sat_pos;
-    sous_point(etat, date2, pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
+    orbite_a_date(etat, dt / 86400.0 + date);
 
     // orbital-frame angles from the inertial ones: two solutions (roll, pitch,
     // yaw), chosen by continuity of the pitch
@@ -269,6 +264,7 @@ void attitude_step(Etat& etat, double dt, double date) {
     a.yd[4] = taux_differences(a.yd[2], yd_prec[2], dt);
     a.yd[5] = taux_differences(a.yd[1], yd_prec[1], dt);
     quat_refresh(etat);
+    return true;
 }
 
 }  // namespace kestrel

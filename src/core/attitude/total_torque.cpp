@@ -1,7 +1,5 @@
 #include "core/attitude/couples.h"
 #include "core/etat.h"
-#include "core/orbit/orb_projection.h"
-#include "core/orbit/orb_trajecto.h"
 
 namespace kestrel {
 
@@ -20,9 +18,7 @@ void total_torque(Etat& etat, double date) {
 }
 
 void total_torque_a_date(Etat& etat, double date) {
-    orb_position(etat, date);
-    Vec3 pos = etat.orb.sat_pos;
-    sous_point(etat, date, pos, etat.orb.sat_lon, etat.orb.sat_lat, etat.orb.sat_alt);
+    orbite_a_date(etat, date);
     AttitudeRecord& a = etat.att;
     a.ctot = {};
     couple_gravite(etat);

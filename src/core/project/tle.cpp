@@ -8,7 +8,7 @@
 
 #include <fmt/format.h>
 
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 
 namespace kestrel {
 

@@ -5,13 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 #include <utility>
 
+#include "core/attitude/att_run.h"
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
 #include "core/etat.h"
-#include "core/orbit/orb_projection.h"
-#include "core/orbit/orb_trajecto.h"
 
 namespace kestrel {
 namespace {
@@ -39,9 +39,7 @@ Etat corps_libre(const Vec3& w) {
 void avance(Etat& e, double dt, int n) {
     double j = e.session.j_debut;
     for (int i = 0; i < n; ++i) {
-        orb_position(e, j);
-        const Vec3 p = e.orb.sat_pos;
-        sous_point(e, j, p, e.orb.sat_lon, e.orb.sat_lat, e.orb.sat_alt);
+        orbite_a_date(e, j);
         attitude_step(e, dt, j);
         j += dt / 86400;
     }
@@ -168,10 +166,35 @@ TEST(Singulier, PasSansEffet) {
     orb_position(e, j);
     const Vec3 p = e.orb.sat_pos;
     const Vec6 w = e.att.omega, yd = e.att.yd;
-    attitude_step(e, 10.0, j);
+    EXPECT_FALSE(attitude_step(e, 10.0, j));
     EXPECT_EQ(e.orb.sat_pos, p);
     EXPECT_EQ(e.att.omega, w);
     EXPECT_EQ(e.att.yd, yd);
+    // the run's step then knows the orbit is still at j
+    double date_orbite = std::nan("");
+    pas_run(e, 10.0, j, date_orbite);
+    EXPECT_EQ(date_orbite, j);
+}
+
+// The orbit a run step leaves is the orbit at the next date to the bit, the
+// same as a fresh propagation there: the next step can take it as it is.
+TEST(PasRun, OrbiteLaisseeIdentiqueALaDateSuivante) {
+    Etat e = corps_libre({0.1, 0.2, 0.3});
+    e.orbite.orb_demi = 7000;  // low enough for the air and the field to act
+    double date_orbite = std::nan("");
+    double j = e.session.j_debut;
+    for (int k = 0; k < 3; ++k, j += 10.0 / 86400) {
+        pas_run(e, 10.0, j, date_orbite);
+        EXPECT_EQ(date_orbite, 10.0 / 86400 + j);
+        Etat f = e;
+        orbite_a_date(f, date_orbite);
+        const SortiesOrbite &a = e.orb, &b = f.orb;
+        EXPECT_EQ(std::tuple(a.sat_pos, a.sat_vit, a.soleil_pos, a.vec_nadir, a.vec_soleil),
+                  std::tuple(b.sat_pos, b.sat_vit, b.soleil_pos, b.vec_nadir, b.vec_soleil));
+        EXPECT_EQ(std::tuple(a.eclipse, a.anomalie_moy, a.sat_lon, a.sat_lat, a.sat_alt),
+                  std::tuple(b.eclipse, b.anomalie_moy, b.sat_lon, b.sat_lat, b.sat_alt));
+    }
+    EXPECT_FALSE(e.faute);
 }
 
 TEST(Reduction, MoinsPiRameneAPlusPiPourYi) {

@@ -226,9 +226,7 @@ TEST(TotalTorque, DeuxEntreesMemeSomme) {
         x->att.face_c[0] = {0.225, 0.01, 0};  // gives the air a lever
         x->att.ctot = {1, 1, 1};
     }
-    orb_position(e, d);
-    const Vec3 p = e.orb.sat_pos;
-    sous_point(e, d, p, e.orb.sat_lon, e.orb.sat_lat, e.orb.sat_alt);
+    orbite_a_date(e, d);
     total_torque(e, d);
     const AttitudeRecord& a = e.att;
     EXPECT_NE(a.c_aero[2], 0.0);
