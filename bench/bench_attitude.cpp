@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/attitude/att_run.h"
+#include "core/attitude/atmosphere.h"
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
 #include "core/etat.h"
@@ -59,8 +60,11 @@ void BM_jour_sans_fichier(benchmark::State& state) {
         pas = 0;
         const double fin = e.session.j_fin, dj = 1.0 / 86400;
         double date_orbite = std::nan("");
+        TablesAtmosphere tables;
+        if (Erreur err = charge_tables_atmosphere(e.session.dossier_depart, tables))
+            state.SkipWithError(texte_erreur(err).c_str());
         for (double j = e.session.j_debut; j <= fin; j += dj) {
-            pas_run(e, 1.0, j, date_orbite);
+            pas_run(e, 1.0, j, date_orbite, tables);
             ++pas;
         }
         benchmark::DoNotOptimize(e.att.omega);

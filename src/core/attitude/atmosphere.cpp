@@ -5,9 +5,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <map>
-#include <memory>
-#include <mutex>
 
 #include "core/math/math.h"
 #include "core/orbit/orb_projection.h"
@@ -78,23 +75,6 @@ Erreur charge_tables_atmosphere(const std::string& dossier, TablesAtmosphere& t)
     std::string base = dossier.empty() ? std::string(".") : dossier;
     if (Erreur e = lit_flux(base + "/flux_solaire.txt", t)) return e;
     return lit_densite(base + "/densite.txt", t);
-}
-
-const TablesAtmosphere* tables_atmosphere(const std::string& dossier, Erreur& err) {
-    // Loaded once per folder, never changed after insertion: the pointers stay valid.
-    static std::mutex verrou;
-    static std::map<std::string, std::unique_ptr<const TablesAtmosphere>, std::less<>> cache;
-    std::lock_guard<std::mutex> garde(verrou);
-    auto it = cache.find(dossier);
-    if (it != cache.end()) return it->second.get();
-    auto t = std::make_unique<TablesAtmosphere>();
-    if (Erreur e = charge_tables_atmosphere(dossier, *t)) {
-        err = e;
-        return nullptr;
-    }
-    const TablesAtmosphere* p = t.get();
-    cache.emplace(dossier, std::move(t));
-    return p;
 }
 
 double flux_solaire_sinus(double date) {

@@ -1,6 +1,7 @@
 // Thermosphere: exospheric temperature from the date, the place, the Sun and
 // the solar flux, then density from a table of altitude by temperature. The
-// two tables are read once per data folder and kept read-only in memory.
+// two tables are read once when a run is prepared, into a TablesAtmosphere
+// that the caller owns and passes, read-only, to the models.
 #pragma once
 #include <array>
 #include <string>
@@ -10,8 +11,6 @@
 #include "core/shell/types.h"
 
 namespace kestrel {
-
-struct Etat;
 
 struct TablesAtmosphere {
     static constexpr int premiere_annee = 1991;  // record 1 is January 1991
@@ -31,11 +30,6 @@ struct TablesAtmosphere {
 // Reads flux_solaire.txt and densite.txt from `dossier`. A missing or bad file
 // gives CodeErreur::fichier_donnees with the file's path in detail.
 Erreur charge_tables_atmosphere(const std::string& dossier, TablesAtmosphere& t);
-
-// Tables of `dossier`, loaded at the first call and shared (read-only) by every
-// later call and thread. nullptr and `err` set when the files cannot be read;
-// a later call tries again.
-const TablesAtmosphere* tables_atmosphere(const std::string& dossier, Erreur& err);
 
 // F10.7 (sfu) for the month of `date`: the table from 1991 to 2007, the sine
 // 135 + 65 sin(2 pi (date - 17712) / 36525) elsewhere.

@@ -161,9 +161,9 @@ std::string chemin_resultats(const std::string& dossier_depart) {
     return {};
 }
 
-void pas_run(Etat& etat, double dt, double date, double& date_orbite) {
+void pas_run(Etat& etat, double dt, double date, double& date_orbite, const TablesAtmosphere& tables) {
     if (std::bit_cast<uint64_t>(date) != std::bit_cast<uint64_t>(date_orbite)) orbite_a_date(etat, date);
-    date_orbite = attitude_step(etat, dt, date) ? dt / 86400.0 + date : date;
+    date_orbite = attitude_step(etat, dt, date, tables) ? dt / 86400.0 + date : date;
 }
 
 BilanRun att_run(Etat& etat, const ParametresRun& p) {
@@ -177,7 +177,11 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
     etat.faute = {};
 
     // the tables are read before the file is opened, so a missing one costs nothing
-    if (!tables_atmosphere(etat.session.dossier_depart, bilan.erreur)) return bilan;
+    TablesAtmosphere tables;
+    if (Erreur e = charge_tables_atmosphere(etat.session.dossier_depart, tables)) {
+        bilan.erreur = e;
+        return bilan;
+    }
 
     bilan.fichier = p.fichier.empty() ? chemin_resultats(etat.session.dossier_depart) : p.fichier;
     Ecrivain w(bilan.fichier);
@@ -211,7 +215,7 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
     double dt = pas * 86400;
     double date_orbite = std::nan("");
     while (j <= fin) {
-        pas_run(etat, dt, j, date_orbite);
+        pas_run(etat, dt, j, date_orbite, tables);
         ++bilan.pas;
 
         if (etat.faute) {

@@ -17,6 +17,7 @@
 namespace kestrel {
 
 struct Etat;
+struct TablesAtmosphere;
 
 struct ParametresRun {
     double pas_ecriture = 1.0;  // a record every Round(n) steps, 1..32767
@@ -37,8 +38,10 @@ struct BilanRun {
 // Empty when neither can be made.
 std::string chemin_resultats(const std::string& dossier_depart);
 
-// From session.j_debut to session.j_fin by session.pas_sim seconds. Stops at
-// the first numerical fault or non-finite state, reporting its date.
+// From session.j_debut to session.j_fin by session.pas_sim seconds. Reads the
+// atmosphere tables of session.dossier_depart first, into an object of its
+// own: runs in parallel threads share nothing. Stops at the first numerical
+// fault or non-finite state, reporting its date.
 BilanRun att_run(Etat& etat, const ParametresRun& p);
 
 // One step of the run at `date` (days), dt in s: the orbit is brought to
@@ -46,6 +49,6 @@ BilanRun att_run(Etat& etat, const ParametresRun& p);
 // stands at, NaN when unknown; updated), then attitude_step. The step ends
 // with the orbit at its end date, which is the next step's date whenever the
 // two sums agree to the bit: the orbit is then propagated once a step.
-void pas_run(Etat& etat, double dt, double date, double& date_orbite);
+void pas_run(Etat& etat, double dt, double date, double& date_orbite, const TablesAtmosphere& tables);
 
 }  // namespace kestrel

@@ -195,10 +195,10 @@ double taux_differences(double y, double q, double dt) {
     return (y - q) / dt;
 }
 
-bool attitude_step(Etat& etat, double dt, double date) {
+bool attitude_step(Etat& etat, double dt, double date, const TablesAtmosphere& tables) {
     AttitudeRecord& a = etat.att;
     quat_refresh(etat);
-    total_torque(etat, date);
+    total_torque(etat, date, tables);
 
     for (int i = 0; i < 3; ++i) a.dip_tot[i] = a.dip_cmd[i] * a.dip_act[i] + a.dip_res[i];
     const Vec3 jets = a.jets;

@@ -12,13 +12,15 @@
 namespace kestrel {
 
 struct Etat;
+struct TablesAtmosphere;
 
 // dt: s; date: days since 1950 at the start of the step, with the orbit state
 // (position, velocity, ground point) already at `date`. On return the orbit
 // state is at date + dt / 86400 and the result is true, unless the system was
 // singular: then nothing moved (the orbit stays at `date`), the result is
-// false, and the caller simply tries the next step.
-bool attitude_step(Etat& etat, double dt, double date);
+// false, and the caller simply tries the next step. `tables`: the air density
+// tables read when the run was prepared.
+bool attitude_step(Etat& etat, double dt, double date, const TablesAtmosphere& tables);
 
 // One turn by sign and real modulo: sign(x) (|x| mod 2 pi), rad.
 double reduit_tour(double x);

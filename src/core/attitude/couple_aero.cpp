@@ -23,15 +23,9 @@ double facteur_vent(double alt) {
     return 1.4 - ((alt - 600) * 0.4 / 200);
 }
 
-void couple_aero(Etat& etat, double date) {
+void couple_aero(Etat& etat, double date, const TablesAtmosphere& tables) {
     Vec3& c = etat.att.c_aero;
     c = {};
-    Erreur err;
-    const TablesAtmosphere* tables = tables_atmosphere(etat.session.dossier_depart, err);
-    if (!tables) {
-        signale_faute(etat, err.code, date, err.detail.c_str());
-        return;
-    }
 
     double alt = etat.orb.sat_alt;
     // Earth's rate in deg/s, to rad/s
@@ -43,8 +37,8 @@ void couple_aero(Etat& etat, double date) {
     inertiel_vers_corps(etat, vrel, V);
     double v = vec_norme(V);  // km/s
 
-    double T = temperature_exo(*tables, date, etat.orb.sat_lon, etat.orb.sat_lat, alt, etat.orb.soleil_pos);
-    double rho = densite(*tables, T, alt);
+    double T = temperature_exo(tables, date, etat.orb.sat_lon, etat.orb.sat_lat, alt, etat.orb.soleil_pos);
+    double rho = densite(tables, T, alt);
     double q = rho * 0.5 * v * v * 1e7;
 
     const AttitudeRecord& a = etat.att;

@@ -8,6 +8,7 @@
 namespace kestrel {
 
 struct Etat;
+struct TablesAtmosphere;
 
 // (3 mu / r³) n x (J n): n the unit position in body axes, r in km, J the
 // total inertia with its products negated. Writes c_gravite.
@@ -16,9 +17,8 @@ void couple_gravite(Etat& etat);
 // (km): 1 at 100 km, rising to 1.4 from 400 to 600 km, back to 1 at 800 km.
 double facteur_vent(double alt);
 // Free-molecular flow on the six faces, air turning with the Earth (rate
-// scaled by a wind factor of altitude). Writes c_aero. A missing data table
-// records CodeErreur::fichier_donnees in etat.faute and gives 0.
-void couple_aero(Etat& etat, double date);
+// scaled by a wind factor of altitude), density from `tables`. Writes c_aero.
+void couple_aero(Etat& etat, double date, const TablesAtmosphere& tables);
 // Radiation pressure on the sunlit faces; exactly 0 in eclipse. Writes c_solaire.
 void couple_solaire(Etat& etat, double date);
 // Dipole (switch x actuator + residual, A m²) crossed with the degree-6
@@ -26,9 +26,9 @@ void couple_solaire(Etat& etat, double date);
 void couple_magnetique(Etat& etat, double date);
 
 // The four models, then ctot = ((magnetic + aero) + solar) + gravity.
-void total_torque(Etat& etat, double date);
+void total_torque(Etat& etat, double date, const TablesAtmosphere& tables);
 // For the results window: orbit and ground point brought to `date` first,
 // then ctot = ((aero + magnetic) + solar) + gravity.
-void total_torque_a_date(Etat& etat, double date);
+void total_torque_a_date(Etat& etat, double date, const TablesAtmosphere& tables);
 
 }  // namespace kestrel

@@ -3,9 +3,9 @@
 
 namespace kestrel {
 
-void total_torque(Etat& etat, double date) {
+void total_torque(Etat& etat, double date, const TablesAtmosphere& tables) {
     couple_gravite(etat);
-    couple_aero(etat, date);
+    couple_aero(etat, date, tables);
     couple_solaire(etat, date);
     couple_magnetique(etat, date);
     AttitudeRecord& a = etat.att;
@@ -17,12 +17,12 @@ void total_torque(Etat& etat, double date) {
     }
 }
 
-void total_torque_a_date(Etat& etat, double date) {
+void total_torque_a_date(Etat& etat, double date, const TablesAtmosphere& tables) {
     orbite_a_date(etat, date);
     AttitudeRecord& a = etat.att;
     a.ctot = {};
     couple_gravite(etat);
-    couple_aero(etat, date);
+    couple_aero(etat, date, tables);
     couple_solaire(etat, date);
     couple_magnetique(etat, date);
     for (int i = 0; i < 3; ++i) {

@@ -10,11 +10,11 @@
 namespace kestrel {
 namespace {
 
-const TablesAtmosphere& tables_livrees() {
-    Erreur e;
-    const TablesAtmosphere* t = tables_atmosphere(KESTREL_BIN_DIR, e);
-    EXPECT_TRUE(t) << e.detail;
-    return *t;
+TablesAtmosphere tables_livrees() {
+    TablesAtmosphere t;
+    const Erreur e = charge_tables_atmosphere(KESTREL_BIN_DIR, t);
+    EXPECT_FALSE(e) << e.detail;
+    return t;
 }
 
 double jour(int an, int mois, int j) { return date_vers_jour(Date{int16_t(an), int16_t(mois), 0, int16_t(j)}); }
@@ -31,8 +31,8 @@ TEST(Atmosphere, TablesLivreesEtFichierAbsent) {
     EXPECT_DOUBLE_EQ(t.lignes.front().d1000, 5.51e-07);
     EXPECT_DOUBLE_EQ(t.lignes.back().alt, 2500);
     // a missing file is named in the error
-    Erreur e;
-    EXPECT_EQ(tables_atmosphere("/nonexistent-kestrel-folder", e), nullptr);
+    TablesAtmosphere vide;
+    const Erreur e = charge_tables_atmosphere("/nonexistent-kestrel-folder", vide);
     EXPECT_EQ(e.code, CodeErreur::fichier_donnees);
     EXPECT_NE(e.detail.find("flux_solaire.txt"), std::string::npos);
 }

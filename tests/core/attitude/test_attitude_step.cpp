@@ -9,12 +9,23 @@
 #include <utility>
 
 #include "core/attitude/att_run.h"
+#include "core/attitude/atmosphere.h"
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
 #include "core/etat.h"
 
 namespace kestrel {
 namespace {
+
+// The tables delivered beside the binaries, read once for the whole program.
+const TablesAtmosphere& tables() {
+    static const TablesAtmosphere t = [] {
+        TablesAtmosphere r;
+        EXPECT_FALSE(charge_tables_atmosphere(KESTREL_BIN_DIR, r));
+        return r;
+    }();
+    return t;
+}
 
 using testing::DoubleNear;
 using testing::Pointwise;
@@ -40,7 +51,7 @@ void avance(Etat& e, double dt, int n) {
     double j = e.session.j_debut;
     for (int i = 0; i < n; ++i) {
         orbite_a_date(e, j);
-        attitude_step(e, dt, j);
+        attitude_step(e, dt, j, tables());
         j += dt / 86400;
     }
 }
@@ -166,13 +177,13 @@ TEST(Singulier, PasSansEffet) {
     orb_position(e, j);
     const Vec3 p = e.orb.sat_pos;
     const Vec6 w = e.att.omega, yd = e.att.yd;
-    EXPECT_FALSE(attitude_step(e, 10.0, j));
+    EXPECT_FALSE(attitude_step(e, 10.0, j, tables()));
     EXPECT_EQ(e.orb.sat_pos, p);
     EXPECT_EQ(e.att.omega, w);
     EXPECT_EQ(e.att.yd, yd);
     // the run's step then knows the orbit is still at j
     double date_orbite = std::nan("");
-    pas_run(e, 10.0, j, date_orbite);
+    pas_run(e, 10.0, j, date_orbite, tables());
     EXPECT_EQ(date_orbite, j);
 }
 
@@ -184,7 +195,7 @@ TEST(PasRun, OrbiteLaisseeIdentiqueALaDateSuivante) {
     double date_orbite = std::nan("");
     double j = e.session.j_debut;
     for (int k = 0; k < 3; ++k, j += 10.0 / 86400) {
-        pas_run(e, 10.0, j, date_orbite);
+        pas_run(e, 10.0, j, date_orbite, tables());
         EXPECT_EQ(date_orbite, 10.0 / 86400 + j);
         Etat f = e;
         orbite_a_date(f, date_orbite);

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "core/attitude/atmosphere.h"
 #include "core/attitude/champ_igrf.h"
 #include "core/attitude/couples.h"
 #include "core/etat.h"
@@ -21,6 +22,16 @@ using testing::DoubleNear;
 using testing::Pointwise;
 
 constexpr double DATE = 18000.25;
+
+// The tables delivered beside the binaries, read once for the whole program.
+const TablesAtmosphere& tables() {
+    static const TablesAtmosphere t = [] {
+        TablesAtmosphere r;
+        EXPECT_FALSE(charge_tables_atmosphere(KESTREL_BIN_DIR, r));
+        return r;
+    }();
+    return t;
+}
 const Vec3 ZERO{};
 
 Etat etat_test() {
@@ -80,18 +91,11 @@ TEST(CoupleAero, FaceDecaleeSousLeVent) {
         Etat e = etat_test();
         e.orb.sat_alt = c.alt;
         e.att.face_c[0] = {0.225, c.d, 0};
-        couple_aero(e, DATE);
+        couple_aero(e, DATE, tables());
         SCOPED_TRACE(testing::Message() << c.d << " at " << c.alt);
         EXPECT_FALSE(e.faute);
         EXPECT_THAT(e.att.c_aero, Pointwise(DoubleNear(c.tol), Vec3{0, 0, c.cz}));
     }
-    // missing tables are reported by name
-    Etat e = etat_test();
-    e.orb.sat_alt = 90;
-    e.session.dossier_depart = "/nonexistent-kestrel-folder";
-    couple_aero(e, DATE);
-    EXPECT_EQ(e.faute.code, CodeErreur::fichier_donnees);
-    EXPECT_NE(e.faute.detail.find("flux_solaire.txt"), std::string::npos);
 }
 
 // --- solar pressure -----------------------------------------------------------
@@ -227,7 +231,7 @@ TEST(TotalTorque, DeuxEntreesMemeSomme) {
         x->att.ctot = {1, 1, 1};
     }
     orbite_a_date(e, d);
-    total_torque(e, d);
+    total_torque(e, d, tables());
     const AttitudeRecord& a = e.att;
     EXPECT_NE(a.c_aero[2], 0.0);
     EXPECT_NE(a.c_magnetique[0], 0.0);
@@ -235,7 +239,7 @@ TEST(TotalTorque, DeuxEntreesMemeSomme) {
         EXPECT_EQ(a.ctot[i], ((a.c_magnetique[i] + a.c_aero[i]) + a.c_solaire[i]) + a.c_gravite[i]);
     f.orb.sat_pos = {6468, 0, 0};
     f.orb.sat_alt = 90;
-    total_torque_a_date(f, d);
+    total_torque_a_date(f, d, tables());
     EXPECT_EQ(std::tie(f.orb.sat_pos, f.orb.sat_alt, f.att.c_aero, f.att.ctot),
               std::tie(e.orb.sat_pos, e.orb.sat_alt, e.att.c_aero, e.att.ctot));
 }
