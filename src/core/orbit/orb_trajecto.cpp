@@ -34,7 +34,7 @@ bool memes_cles(const std::array<uint64_t, N>& a, const std::array<uint64_t, N>&
 
 // Kepler's equation by Newton from E = m, then position and velocity. Returns
 // false when the loop passed its cap (the vectors then come from the last pass).
-bool cartesien(SortiesOrbite& so, Erreur& faute, double j, double a, double e, double i, double w,
+bool cartesien(SortiesOrbite& sortie, Erreur& faute, double j, double a, double e, double i, double w,
                double om, double& m) {
     m = m - 2.0 * std::floor(m / DEUX_PI) * PI;
 
@@ -52,7 +52,7 @@ bool cartesien(SortiesOrbite& so, Erreur& faute, double j, double a, double e, d
     if (!converge) signale_faute(faute, CodeErreur::non_convergence, j, "équation de Kepler");
     m = E;
 
-    MemoireOrbite& mem = so.memoire;
+    MemoireOrbite& mem = sortie.memoire;
     const std::array<uint64_t, 5> cle{bits(a), bits(e), bits(i), bits(w), bits(om)};
     if (!mem.plan_valide || !memes_cles(mem.cle_plan, cle)) {
         const double cw = std::cos(w), sw = std::sin(w), co = std::cos(om), so = std::sin(om);
@@ -69,13 +69,13 @@ bool cartesien(SortiesOrbite& so, Erreur& faute, double j, double a, double e, d
     const double Qx = mem.Q[0], Qy = mem.Q[1], Qz = mem.Q[2];
     const double s = mem.s;
     const double cE = std::cos(E), sE = std::sin(E);
-    Vec3& p = so.sat_pos;
+    Vec3& p = sortie.sat_pos;
     p[0] = a * ((cE - e) * Px + s * sE * Qx);
     p[1] = a * ((cE - e) * Py + s * sE * Qy);
     p[2] = a * ((cE - e) * Pz + s * sE * Qz);
 
     const double Ep = mem.n_plan / (1.0 - e * cE);
-    Vec3& v = so.sat_vit;
+    Vec3& v = sortie.sat_vit;
     v[0] = a * Ep * (s * cE * Qx - sE * Px);
     v[1] = a * Ep * (s * cE * Qy - sE * Py);
     v[2] = a * Ep * (s * cE * Qz - sE * Pz);
