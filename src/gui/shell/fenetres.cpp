@@ -7,13 +7,13 @@
 #include "project/att_exp_data.h"
 #include "project/power_conf.h"
 #include "project/power_exp_data.h"
+#include "power/power_sim_all.h"
 #include "shell/menu.h"
 
 namespace kestrel::gui {
 
-// One line per window, for instance:
-//   m.branche("mn_sim_pow_com", [&m] { ouvre_power_sim_all(m); });
-// A window tagged "conf" or "attconf" joins m.registre() when it is created.
+// One line per window. A window tagged "conf" or "attconf" joins m.registre()
+// when it is created.
 void branche_fenetres(menu& m) {
     m.branche("mn_exp_pow_bat", [&m] { ouvre_power_exp_bat(m); });
     m.branche("mn_sim_car", [&m] { ouvre_orbito_conf(m, orbito_conf::onglet_orbite); });
@@ -26,6 +26,7 @@ void branche_fenetres(menu& m) {
     m.branche("mn_exp_pow_data", [&m] { ouvre_power_exp_data(m); });
     m.branche("mn_exp_att_data", [&m] { ouvre_att_exp_data(m); });
     branche_power_conf(m);
+    m.branche("mn_sim_pow_com", [&m] { ouvre_power_sim_all(m); });
 }
 
 }  // namespace kestrel::gui
