@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
@@ -88,7 +89,8 @@ int main(int argc, char** argv) {
         int n = 0;
         QTimer prise;
         QObject::connect(&prise, &QTimer::timeout, [&] {
-            fen.grab().save(QStringLiteral("%1/sim_%2.png").arg(captures).arg(n, 2, 10, QLatin1Char('0')));
+            // The screen as composed, the 3D view included.
+            QGuiApplication::primaryScreen()->grabWindow(0).save(QStringLiteral("%1/sim_%2.png").arg(captures).arg(n, 2, 10, QLatin1Char('0')));
             if (++n >= 12) app.quit();
         });
         prise.start(3000);

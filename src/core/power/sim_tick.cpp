@@ -8,11 +8,17 @@ namespace kestrel {
 
 DecisionTick decide_tick(const SimPower& sim, bool temps_reel, double sim_date, double sim_date_start) {
     DecisionTick d;
+    // A window just opened resets first, even if started before its first tick.
+    if (sim.ouverture) {
+        d.reinit = true;
+        d.geometrie = sim.sim_state == SIM_MARCHE;
+        return d;
+    }
     if (sim.sim_state == SIM_MARCHE) {
         d.pas = sim.compteur == 0;
         d.geometrie = true;
     } else if (sim.sim_state == SIM_ARRET) {
-        d.reinit = sim.ouverture || (sim_date != sim_date_start && !(temps_reel && sim.reinit_faite));
+        d.reinit = sim_date != sim_date_start && !(temps_reel && sim.reinit_faite);
     }
     return d;
 }

@@ -21,8 +21,9 @@ struct SimPower {
     // after a reset is the clock, never the start date, so without it a
     // stopped real-time run would reset at every tick.
     bool reinit_faite = false;
-    // Set when the window opens: the first stopped tick resets even at the
-    // start date (a project load puts the date there with no working state).
+    // Set when the window opens: the first tick resets, even at the start
+    // date (a project load puts the date there with no working state) and
+    // even when the run was started before that tick.
     bool ouverture = true;
 };
 

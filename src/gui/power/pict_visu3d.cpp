@@ -80,7 +80,8 @@ QSurfaceFormat Pict_visu3d::SetupPixelFormat() {
     f.setRedBufferSize(8);
     f.setGreenBufferSize(8);
     f.setBlueBufferSize(8);
-    f.setAlphaBufferSize(8);
+    // No alpha buffer: the view is opaque, whatever the clear colour's alpha.
+    f.setAlphaBufferSize(0);
     f.setDepthBufferSize(24);
     return f;
 }

@@ -32,7 +32,7 @@ public:
     // Whether a context was made and the textures were uploaded.
     bool pret() const { return pret_; }
 
-    // The surface format of the view: RGBA, depth, double buffer,
+    // The surface format of the view: RGB(A) 8 bits, depth, double buffer,
     // compatibility profile so that the fixed-function calls exist.
     static QSurfaceFormat SetupPixelFormat();
 

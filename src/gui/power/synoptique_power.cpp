@@ -111,6 +111,7 @@ void synoptique_power::affiche(const AffichageSim& a) {
     findChild<QWidget*>(QStringLiteral("fl_charge"))->setVisible(a.fl_charge);
     findChild<QWidget*>(QStringLiteral("fl_decharge"))->setVisible(a.fl_decharge);
     findChild<QWidget*>(QStringLiteral("fl_shunt"))->setVisible(a.fl_shunt);
+    place();  // the boxes follow the width of their new texts
     update();
 }
 
@@ -120,7 +121,8 @@ synoptique_power::Plan synoptique_power::plan() const {
     // Three columns (panels | bus | payload), three rows (shunt | bus | battery).
     const double bw = std::min(0.22 * w, 170.0), bh = std::min(0.16 * h, 70.0);
     const double cx = w / 2, cy = h * 0.47;
-    p.cu = QRectF(cx - bw / 2, cy - bh / 2, bw, bh);
+    const double hcu = std::max(bh * 1.5, 88.0);  // title on two lines and lab_pava inside
+    p.cu = QRectF(cx - bw / 2, cy - hcu / 2, bw, hcu);
     p.panneaux = QRectF(8, cy - bh / 2, bw * 0.8, bh);
     p.charge_utile = QRectF(w - 8 - bw * 0.8, cy - bh / 2, bw * 0.8, bh);
     p.shunt = QRectF(cx - bw * 0.35, 8, bw * 0.7, bh * 0.7);
@@ -143,29 +145,23 @@ void synoptique_power::place() {
         b->adjustSize();
         return b;
     };
-    // Captions above and below the horizontal paths, beside the vertical ones.
-    const auto au_dessus = [&](const char* nom, const QLineF& l) {
+    // Panels and payload: their figures over and under their blocks, the
+    // paths between are too short for a caption.
+    const auto pres_de = [&](const char* nom, const QRectF& r, bool dessus, bool a_droite) {
         QWidget* b = boite(nom);
-        b->move(static_cast<int>(std::max(4.0, l.center().x() - b->width() / 2.0)),
-                static_cast<int>(l.p1().y() - 18 - b->height()));
+        const double x = a_droite ? r.right() - b->width() : r.left();
+        const double y = dessus ? r.top() - 6 - b->height() : r.bottom() + 6;
+        b->move(static_cast<int>(std::max(4.0, x)), static_cast<int>(y));
     };
-    const auto au_dessous = [&](const char* nom, const QLineF& l) {
-        QWidget* b = boite(nom);
-        b->move(static_cast<int>(std::max(4.0, l.center().x() - b->width() / 2.0)), static_cast<int>(l.p1().y() + 18));
-    };
-    au_dessus("lab_pgs", p.gs);
-    au_dessous("lab_pgs_diss", p.gs);
-    au_dessus("lab_puse", p.utile);
-    au_dessous("lab_disscu", p.utile);
-    // Right-aligned boxes must not leave the widget.
-    for (const char* nom : {"lab_puse", "lab_disscu"}) {
-        QWidget* b = boite(nom);
-        if (b->geometry().right() > width() - 4) b->move(width() - 4 - b->width(), b->y());
-    }
+    pres_de("lab_pgs", p.panneaux, true, false);
+    pres_de("lab_pgs_diss", p.panneaux, false, false);
+    pres_de("lab_puse", p.charge_utile, true, true);
+    pres_de("lab_disscu", p.charge_utile, false, true);
+    // Inside the bus block, under its title (under the block it would sit on
+    // the battery's paths).
     QWidget* pava = boite("lab_pava");
-    pava->move(static_cast<int>(p.cu.center().x() - pava->width() / 2.0), static_cast<int>(p.cu.bottom() + 6));
-    // lab_pava under the bus block would sit on the battery paths: put it inside.
-    pava->move(pava->x(), static_cast<int>(p.cu.center().y() - 2));
+    pava->move(static_cast<int>(p.cu.center().x() - pava->width() / 2.0),
+               static_cast<int>(p.cu.bottom() - 4 - pava->height()));
     QWidget* exc = boite("lab_exc");
     exc->move(static_cast<int>(p.vers_shunt.p1().x() + 22), static_cast<int>(p.vers_shunt.center().y() - exc->height() / 2.0));
     QWidget* ch = boite("lab_diss_charge");

@@ -35,7 +35,8 @@ TEST(SimTick, DecisionByStateCounterAndDates) {
         {SIM_ARRET, 0, false, true, false, true, false, true, false},   // opened at the start date
         {SIM_ARRET, 0, true, false, false, false, false, true, false},
         {SIM_ARRET, 0, true, false, true, false, false, false, false},  // real time: once only
-        {SIM_PAUSE, 0, false, false, false, true, false, false, false},
+        {SIM_PAUSE, 0, false, false, false, true, false, true, false},
+        {SIM_MARCHE, 0, false, true, false, true, false, true, true},  // started before the first tick
         {7, 0, false, false, false, false, false, false, false},         // any other value pauses
     };
     for (const auto& [state, compteur, rt, egal, faite, ouvert, pas, reinit, geo] : table) {
