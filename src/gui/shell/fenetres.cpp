@@ -4,10 +4,10 @@
 #include "orbit/orbito_conf.h"
 #include "power/power_exp_bat.h"
 #include "power/power_exp_pan.h"
+#include "power/power_sim_all.h"
 #include "project/att_exp_data.h"
 #include "project/power_conf.h"
 #include "project/power_exp_data.h"
-#include "power/power_sim_all.h"
 #include "shell/menu.h"
 
 namespace kestrel::gui {
