@@ -2,29 +2,20 @@
 // window walks them; one CSV row per step, or a short summary.
 #include <algorithm>
 #include <cstdio>
-#include <limits>
 #include <memory>
 #include <sstream>
 
 #include <fmt/format.h>
 
-#include "cli/commun.h"
+#include "cli/options_power.h"
 #include "cli/sortie.h"
 #include "core/power/power.h"
+#include "core/power/resume_power.h"
 #include "core/shell/messages.h"
-#include "core/shell/parcours.h"
 
 namespace kestrel::cli {
 
 namespace {
-
-struct OptionsPower {
-    OptionsCommunes communes;
-    bool eol = false;
-    std::string pointage;  // "roulis,tangage,lacet", degrees
-    double spin = 0;       // turns per minute
-    bool resume = false;
-};
 
 void ecrit_entete(Sortie& out) {
     out << "date,eclipse,flux_sun,flux_alb,flux_ir,pan_angle,pan_target,gen_power,bat_soc,bat_v,bat_i,"
@@ -56,37 +47,40 @@ void ecrit_ligne(Sortie& out, double date, const PowerRecord& p) {
     out << l;
 }
 
-// Figures of a run for --summary.
-struct Resume {
-    long pas = 0, pas_eclipse = 0;
-    double soc_min = std::numeric_limits<double>::infinity(), soc_max = -soc_min;
-    double tbat_min = soc_min, tbat_max = -soc_min;
-    double pg_min = soc_min, pg_max = -soc_min, pg_somme = 0;
-
-    void ajoute(const PowerRecord& p) {
-        ++pas;
-        if (p.eclipse == VRAI) ++pas_eclipse;
-        soc_min = std::min(soc_min, p.bat_soc);
-        soc_max = std::max(soc_max, p.bat_soc);
-        tbat_min = std::min(tbat_min, p.t_bat);
-        tbat_max = std::max(tbat_max, p.t_bat);
-        pg_min = std::min(pg_min, p.gen_power);
-        pg_max = std::max(pg_max, p.gen_power);
-        pg_somme += p.gen_power;
-    }
-
-    void ecrit(Sortie& out, const Etat& etat) const {
-        out << fmt::format("Simulation du sous-système d'énergie : {} pas de {} s\n", pas, etat.session.pas_sim);
-        out << fmt::format("Fraction en éclipse : {:.1f} %\n", pas ? 100.0 * pas_eclipse / pas : 0.0);
-        out << fmt::format("Charge batterie : min {:.1f} %, max {:.1f} %\n", 100 * soc_min, 100 * soc_max);
-        out << fmt::format("Température batterie : min {:.2f} °C, max {:.2f} °C\n", tbat_min, tbat_max);
-        out << fmt::format("Puissance générateur : min {:.2f} W, max {:.2f} W, moyenne {:.2f} W\n", pg_min, pg_max,
-                           pas ? pg_somme / pas : 0.0);
-    }
-};
+void ecrit_resume(Sortie& out, const ResumePower& r, const Etat& etat) {
+    out << fmt::format("Simulation du sous-système d'énergie : {} pas de {} s\n", r.pas, etat.session.pas_sim);
+    out << fmt::format("Fraction en éclipse : {:.1f} %\n", 100.0 * r.fraction_eclipse());
+    out << fmt::format("Charge batterie : min {:.1f} %, max {:.1f} %\n", 100 * r.soc_min, 100 * r.soc_max);
+    out << fmt::format("Température batterie : min {:.2f} °C, max {:.2f} °C\n", r.tbat_min, r.tbat_max);
+    out << fmt::format("Puissance générateur : min {:.2f} W, max {:.2f} W, moyenne {:.2f} W\n", r.pg_min,
+                       r.pg_max, r.pg_moyenne());
+    out << fmt::format("Bilan énergie batterie : {:.2f} Wh\n", r.bilan);
+}
 
 int lance_power(const OptionsPower& o) {
     Etat etat;
+    if (int r = prepare_power(o, etat); r != SORTIE_OK) return r;
+
+    Sortie out(o.communes.out);
+    if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
+
+    if (!o.resume) ecrit_entete(out);
+    const BilanPower bilan = run_power(etat, [&](double j, const PowerRecord& p) {
+        if (!o.resume) ecrit_ligne(out, j, p);
+        return out.ok();  // a failed write stops the run
+    });
+    if (bilan.alerte_charge) std::cerr << msg::incompat_charge << "\n";
+    if (etat.faute) {
+        signale(texte_erreur(etat.faute), SORTIE_ECHEC);
+        return termine(out, SORTIE_ECHEC);
+    }
+    if (o.resume) ecrit_resume(out, bilan.resume, etat);
+    return termine(out, SORTIE_OK);
+}
+
+}  // namespace
+
+int prepare_power(const OptionsPower& o, Etat& etat) {
     if (int r = prepare_etat(o.communes, etat); r != SORTIE_OK) return r;
 
     if (!o.pointage.empty()) {
@@ -108,51 +102,22 @@ int lance_power(const OptionsPower& o) {
         std::cerr << msg::date_cellules << "\n";
         return SORTIE_ECHEC;
     }
-
-    Sortie out(o.communes.out);
-    if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
-
-    power_state_init(etat);
-    etat.pwr.t_charge = 0;
-    etat.pwr.t_discharge = 0;
-
-    if (!o.resume) ecrit_entete(out);
-    Resume resume;
-    bool alerte_montree = false;
-    parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
-        etat.session.j_courant = j;
-        power_step(etat);
-        if (etat.pwr.alerte_charge) {
-            if (!alerte_montree) std::cerr << msg::incompat_charge << "\n";
-            alerte_montree = true;
-            etat.pwr.alerte_charge = false;
-        }
-        if (etat.faute || !power_etat_fini(etat, j) || !out.ok()) return false;
-        if (o.resume)
-            resume.ajoute(etat.pwr);
-        else
-            ecrit_ligne(out, j, etat.pwr);
-        return true;
-    });
-    if (etat.faute) {
-        signale(texte_erreur(etat.faute), SORTIE_ECHEC);
-        return termine(out, SORTIE_ECHEC);
-    }
-    if (o.resume) resume.ecrit(out, etat);
-    return termine(out, SORTIE_OK);
+    return SORTIE_OK;
 }
 
-}  // namespace
+void ajoute_options_power(CLI::App* sub, OptionsPower& o) {
+    ajoute_options_communes(sub, o.communes);
+    sub->add_flag("--eol", o.eol, "end-of-life cell values (\"EOL\")");
+    sub->add_option("--pointing", o.pointage, "initial roll,pitch,yaw in degrees (yaw = initial spin angle)")
+        ->check(nombres_finis());
+    sub->add_option("--spin", o.spin, "spin rate, turns per minute")->check(nombres_finis());
+}
 
 Commande enregistre_power(CLI::App& app) {
     auto o = std::make_shared<OptionsPower>();
     Commande c;
     c.app = app.add_subcommand("power", "Power system: one power_step per date, CSV rows");
-    ajoute_options_communes(c.app, o->communes);
-    c.app->add_flag("--eol", o->eol, "end-of-life cell values (\"EOL\")");
-    c.app->add_option("--pointing", o->pointage, "initial roll,pitch,yaw in degrees (yaw = initial spin angle)")
-        ->check(nombres_finis());
-    c.app->add_option("--spin", o->spin, "spin rate, turns per minute")->check(nombres_finis());
+    ajoute_options_power(c.app, *o);
     c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
     c.lance = [o] { return lance_power(*o); };
     return c;

@@ -25,6 +25,7 @@ Commande enregistre_power(CLI::App& app);
 Commande enregistre_attitude(CLI::App& app);
 Commande enregistre_exploit(CLI::App& app);
 Commande enregistre_study(CLI::App& app);
+Commande enregistre_sweep(CLI::App& app);
 
 struct OptionsCommunes {
     std::string pwr, att, orb;  // project files; empty: new-project defaults

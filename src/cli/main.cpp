@@ -16,7 +16,8 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     std::vector<Commande> commandes{enregistre_orbit(app), enregistre_project(app),
                                     enregistre_power(app), enregistre_attitude(app),
-                                    enregistre_study(app), enregistre_exploit(app)};
+                                    enregistre_study(app), enregistre_exploit(app),
+                                    enregistre_sweep(app)};
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp& e) {

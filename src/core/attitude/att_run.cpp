@@ -229,6 +229,7 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
             break;
         }
 
+        if (p.apres_pas) p.apres_pas(etat);
         compteur = static_cast<int16_t>(compteur + 1);
         if (compteur == tous) {
             compteur = 0;

@@ -23,6 +23,7 @@ struct ParametresRun {
     double pas_ecriture = 1.0;  // a record every Round(n) steps, 1..32767
     std::string fichier;        // results path; empty: chemin_resultats()
     std::function<void(double)> progression;  // percent of the period done, 0..100
+    std::function<void(const Etat&)> apres_pas;  // after each step that ran cleanly
 };
 
 struct BilanRun {
