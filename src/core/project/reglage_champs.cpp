@@ -8,7 +8,7 @@
 #include <fmt/format.h>
 
 #include "core/attitude/saisie_attitude.h"
-#include "core/orbit/saisie_orbite.h"
+#include "core/project/saisie_orbite.h"
 #include "core/project/enregistrements.h"
 #include "core/project/liste_champs.h"
 #include "core/project/lignes_energie.h"
