@@ -1,6 +1,7 @@
 #include "shell/fenetres.h"
 
 #include "attitude/att_conf.h"
+#include "attitude/att_sim.h"
 #include "orbit/orbito_conf.h"
 #include "power/power_exp_bat.h"
 #include "power/power_exp_pan.h"
@@ -27,6 +28,7 @@ void branche_fenetres(menu& m) {
     m.branche("mn_exp_att_data", [&m] { ouvre_att_exp_data(m); });
     branche_power_conf(m);
     m.branche("mn_sim_pow_com", [&m] { ouvre_power_sim_all(m); });
+    m.branche("mn_sim_att_com", [&m] { ouvre_att_sim(m); });
 }
 
 }  // namespace kestrel::gui
