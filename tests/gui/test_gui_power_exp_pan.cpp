@@ -104,6 +104,14 @@ void TestPowerExpPan::captions_and_the_date_test() {
     QCOMPARE(b.dlg.messages, (QList<Message>{{QString::fromUtf8(kestrel::msg::date_cellules), Icone::avertissement}}));
     QCOMPARE(b.grille()->rowCount(), 0);
     QVERIFY(!b.ctrl<QPushButton>("cmd_save")->isEnabled());
+    // A step of 0 s would never leave the start: the period is refused before any step.
+    b.etat.session.j_debut = DEBUT;
+    b.etat.session.pas_sim = 0;
+    b.clique("cmd_saisir");
+    QCOMPARE(b.dlg.messages.size(), 2);
+    QVERIFY2(b.dlg.messages.last().texte.startsWith("Pas de simulation refusé : 0 s (période de la fenêtre principale)"),
+             qPrintable(b.dlg.messages.last().texte));
+    QCOMPARE(b.grille()->rowCount(), 0);
 
     // "Quitter" hides it; the toolbar key "sim_pow" brings the same window back.
     b.clique("cmd_quit");
