@@ -110,9 +110,10 @@ int prepare_etat(const OptionsCommunes& o, Etat& etat, bool periode) {
     }
     if (!o.pwr.empty()) {
         if (Erreur e = charge_energie(etat, o.pwr)) return echec(e, o.pwr);
-        origines.debut = origine_fichier(o.pwr, 277);
-        origines.fin = origine_fichier(o.pwr, 278);
-        origines.pas = origine_fichier(o.pwr, 279);
+        const OriginesPeriode f = origines_projet(o.pwr);
+        origines.debut = f.debut;
+        origines.fin = f.fin;
+        origines.pas = f.pas;
     }
     if (!o.att.empty()) {
         if (Erreur e = charge_attitude(etat, o.att)) return echec(e, o.att);

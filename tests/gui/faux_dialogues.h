@@ -17,6 +17,7 @@ struct FauxDialogues : kestrel::gui::Dialogues {
     std::deque<kestrel::gui::Reponse> reponses;     // answers of question
     QList<kestrel::gui::DemandeFichier> demandes;   // every file dialog shown
     QList<QString> questions;                       // "title|text" of every question
+    QList<kestrel::gui::Boutons> boutons;           // the buttons of each question
     QList<Message> messages;
     QList<QString> fatales;                         // reports of fin_fatale (the program would end)
 
@@ -33,8 +34,10 @@ struct FauxDialogues : kestrel::gui::Dialogues {
         return suivant(chemins, QString());
     }
     QString enregistrer(QWidget* w, const kestrel::gui::DemandeFichier& d) override { return ouvrir(w, d); }
-    kestrel::gui::Reponse question(QWidget*, const QString& titre, const QString& texte) override {
+    kestrel::gui::Reponse question(QWidget*, const QString& titre, const QString& texte,
+                                   kestrel::gui::Boutons b) override {
         questions << titre + QLatin1Char('|') + texte;
+        boutons << b;
         return suivant(reponses, kestrel::gui::Reponse::annuler);
     }
     void message(QWidget*, const QString& texte, kestrel::Icone icone) override { messages << Message{texte, icone}; }

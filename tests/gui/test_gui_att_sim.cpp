@@ -65,6 +65,62 @@ private slots:
         QVERIFY(dlg.questions.isEmpty());
         QVERIFY(QFile::exists(f.fichier_temp()));
     }
+
+    // The per-user results file of an installed program is the very path the
+    // question names (data folder + "/kestrel/temp/temp.tmp"): asked with Yes
+    // and No only, then the file is deleted whatever the answer.
+    void question_puis_effacement() {
+        QTemporaryDir dossier;
+        for (const char* f : {"flux_solaire.txt", "densite.txt"})
+            QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f)));
+        // a plain file named temp: the data folder cannot take the results
+        QFile bouche(dossier.filePath("temp"));
+        QVERIFY(bouche.open(QIODevice::WriteOnly));
+        bouche.close();
+        qputenv("XDG_DATA_HOME", dossier.path().toLocal8Bit());
+        Etat etat;
+        etat.session.dossier_depart = dossier.path().toStdString();
+        etat.session.pas_sim = 60;
+        etat.session.j_fin = etat.session.j_debut + 0.01;
+        FauxDialogues dlg;
+        dlg.reponses.push_back(Reponse::oui);
+        att_sim f(etat, dlg);
+        f.att_run();
+        QCOMPARE(f.fichier_temp(), dossier.filePath("kestrel/temp/temp.tmp"));
+        QVERIFY(QFile::exists(f.fichier_temp()));
+        QTest::mouseClick(f.findChild<QPushButton*>("Quit_but"), Qt::LeftButton);
+        QCOMPARE(dlg.questions, QList<QString>{QStringLiteral("KESTREL|") + QString::fromUtf8("Voulez-vouz enregistrez les résultat?")});
+        QCOMPARE(dlg.boutons, QList<Boutons>{Boutons::oui_non});
+        QVERIFY(!QFile::exists(f.fichier_temp()));
+        qunsetenv("XDG_DATA_HOME");
+    }
+
+    // Rates of 1000 rad/s about every axis blow the integration up: the run
+    // ends on its fault with a critical French box, and the head lines and the
+    // rows written before stay in the file and on the charts.
+    void fin_sur_faute() {
+        QTemporaryDir dossier;
+        for (const char* f : {"flux_solaire.txt", "densite.txt"})
+            QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f)));
+        Etat etat;
+        etat.session.dossier_depart = dossier.path().toStdString();
+        etat.session.pas_sim = 1;
+        etat.session.j_fin = etat.session.j_debut + 0.05;
+        FauxDialogues dlg;
+        att_sim f(etat, dlg);
+        etat.att.omega_init = {1e3, 1e3, 1e3};
+        f.att_run();
+        QCOMPARE(dlg.messages.size(), 1);
+        QCOMPARE(dlg.messages[0].icone, Icone::critique);
+        QVERIFY(!dlg.messages[0].texte.isEmpty());
+        QVERIFY(!dlg.messages[0].texte.contains(QStringLiteral("inf")));
+        QFile r(f.fichier_temp());
+        QVERIFY(r.open(QIODevice::ReadOnly));
+        const QStringList lignes = QString::fromUtf8(r.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QVERIFY(lignes.size() >= 3);
+        QVERIFY(lignes[0].startsWith(QStringLiteral("\"#BeginTime(JulianDays)\"")));
+        for (const QString& l : lignes) QVERIFY2(!l.contains(QStringLiteral("inf")) && !l.contains(QStringLiteral("nan")), qPrintable(l));
+    }
 };
 
 QTEST_MAIN(TestAttSim)

@@ -109,7 +109,7 @@ void TestPowerExpPan::captions_and_the_date_test() {
     b.etat.session.pas_sim = 0;
     b.clique("cmd_saisir");
     QCOMPARE(b.dlg.messages.size(), 2);
-    QVERIFY2(b.dlg.messages.last().texte.startsWith("Pas de simulation refusé : 0 s (période de la fenêtre principale)"),
+    QVERIFY2(b.dlg.messages.last().texte.startsWith(QString::fromUtf8("Pas de simulation refusé : 0 s (nouveau projet)")),
              qPrintable(b.dlg.messages.last().texte));
     QCOMPARE(b.grille()->rowCount(), 0);
 

@@ -78,10 +78,21 @@ void TestPowerSimAll::demarrage_refuse_a_la_date_des_cellules() {
     QCOMPARE(b.dlg.messages.size(), 1);
     QCOMPARE(b.dlg.messages[0].texte, QString::fromUtf8(kestrel::msg::date_cellules));
 
+    // A .pwr whose step line reads -60 (possible only through the file): the
+    // run does not start and the box names the file's step line.
     b.etat.session.j_debut = b.etat.pwr.date_cell + 0.5;
+    b.etat.session.chemin_energie = "/tmp/projet.pwr";
+    b.etat.session.pas_sim = -60;
+    b.clique("cmd_lance");
+    QCOMPARE(b.fen->sim_state(), kestrel::SIM_ARRET);
+    QCOMPARE(b.dlg.messages.size(), 2);
+    QVERIFY2(b.dlg.messages[1].texte.contains(QString::fromUtf8("fichier « /tmp/projet.pwr », ligne 279")),
+             qPrintable(b.dlg.messages[1].texte));
+
+    b.etat.session.pas_sim = 120;
     b.clique("cmd_lance");
     QCOMPARE(b.fen->sim_state(), kestrel::SIM_MARCHE);
-    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages.size(), 2);
 }
 
 void TestPowerSimAll::pause_garde_la_date_et_reprend() {

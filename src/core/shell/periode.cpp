@@ -28,6 +28,16 @@ std::string origine_octet(const std::string& chemin, long octet) {
     return fmt::format("fichier « {} », octet {}", chemin, octet);
 }
 
+OriginesPeriode origines_projet(const std::string& chemin_pwr) {
+    OriginesPeriode o;
+    if (chemin_pwr.empty()) return o;
+    // start, end and step are the .pwr's last three lines
+    o.debut = origine_fichier(chemin_pwr, 277);
+    o.fin = origine_fichier(chemin_pwr, 278);
+    o.pas = origine_fichier(chemin_pwr, 279);
+    return o;
+}
+
 double nombre_de_pas(double debut, double fin, double pas_s) {
     return std::floor((fin - debut + 0.1 / 86400.0) * 86400.0 / pas_s) + 1.0;
 }

@@ -28,6 +28,10 @@ struct OriginesPeriode {
 std::string origine_fichier(const std::string& chemin, long ligne);
 std::string origine_octet(const std::string& chemin, long octet);
 
+// The period of a project: from the .pwr's start, end and step lines when the
+// project came from one (chemin_pwr), else the new project's.
+OriginesPeriode origines_projet(const std::string& chemin_pwr);
+
 // debut, fin: day counts; pas_s: s; moy_mvt: rev/day. The first failure found,
 // mean motion first since the default end date is derived from it.
 Erreur verifie_periode(double debut, double fin, double pas_s, double moy_mvt, const OriginesPeriode& o);

@@ -22,6 +22,7 @@
 #include "core/etat.h"
 #include "core/shell/messages.h"
 #include "shell/dialogues.h"
+#include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "shell/saisie.h"
 
@@ -144,6 +145,7 @@ void att_sim::lit_vitesse(int k, QLineEdit* champ) {
 }
 
 void att_sim::att_run() {
+    if (!periode_acceptee(this, dialogues_, etat_)) return;
     const Session& s = etat_.session;
     debut_ = s.j_debut;
     fin_ = s.j_fin;
@@ -192,7 +194,8 @@ void att_sim::Quit_but_Click() {
     // run's own path lacks, so the run's file normally stays: kept as it is.
     const QString nomme = QString::fromStdString(etat_.session.dossier_depart) + QStringLiteral("/kestrel/temp/temp.tmp");
     if (fichier_temp_ == nomme && fichier_resultats_.isEmpty())
-        dialogues_.question(this, QString::fromLatin1(titre_messages), QString::fromUtf8(msg::question_resultats));
+        dialogues_.question(this, QString::fromLatin1(titre_messages), QString::fromUtf8(msg::question_resultats),
+                            Boutons::oui_non);
     QFile::remove(nomme);  // a missing file is no failure
     close();
 }

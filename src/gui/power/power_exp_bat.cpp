@@ -8,6 +8,7 @@
 #include "core/shell/messages.h"
 #include "power/graphes_batterie.h"
 #include "shell/dialogues.h"
+#include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "shell/saisie.h"
 #include "ui_power_exp_bat.h"
@@ -114,6 +115,7 @@ void power_exp_bat::cmd_saisir_Click() {
         dialogues_.message(this, QString::fromStdString(v.message), v.icone);
         return;
     }
+    if (!periode_acceptee(this, dialogues_, etat_)) return;
     en_cours_ = true;
     stop_ = false;
     ui_->cmd_saisir->setEnabled(false);

@@ -13,11 +13,11 @@
 #include "core/project/trace_graph.h"
 #include "core/shell/format_image.h"
 #include "core/shell/messages.h"
-#include "core/shell/periode.h"
 #include "power/image_dessin.h"
 #include "power/images_faces.h"
 #include "power/modele_textes.h"
 #include "shell/dialogues.h"
+#include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "ui_power_exp_pan.h"
 
@@ -142,13 +142,7 @@ void power_exp_pan::cmd_saisir_Click() {
         dialogues_.message(this, QString::fromUtf8(msg::date_cellules), Icone::avertissement);
         return;
     }
-    OriginesPeriode origines;
-    origines.debut = origines.fin = origines.pas = "période de la fenêtre principale";
-    origines.moy_mvt = "orbite du projet";
-    if (const Erreur e = verifie_periode(s.j_debut, s.j_fin, s.pas_sim, etat_.orbite.orb_moy_mvt, origines)) {
-        dialogues_.message(this, u(texte_erreur(e)), Icone::avertissement);
-        return;
-    }
+    if (!periode_acceptee(this, dialogues_, etat_)) return;
     en_cours_ = true;
     stop_ = false;
     ui_->cmd_saisir->setEnabled(false);

@@ -17,6 +17,7 @@
 #include "power/images_sim.h"
 #include "power/pict_visu3d.h"
 #include "shell/dialogues.h"
+#include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "ui_power_sim_all.h"
 
@@ -124,6 +125,7 @@ void power_sim_all::cmd_lance_Click() {
         dialogues_.message(this, QString::fromUtf8(msg::date_cellules), Icone::avertissement);
         return;
     }
+    if (!periode_acceptee(this, dialogues_, etat_)) return;
     sim_.sim_state = SIM_MARCHE;
 }
 

@@ -32,13 +32,16 @@ QString DialoguesQt::enregistrer(QWidget* parent, const DemandeFichier& d) {
     return choisit_fichier(parent, d, false);
 }
 
-Reponse DialoguesQt::question(QWidget* parent, const QString& titre, const QString& texte) {
+Reponse DialoguesQt::question(QWidget* parent, const QString& titre, const QString& texte, Boutons boutons) {
+    const bool annuler = boutons == Boutons::oui_non_annuler;
     QMessageBox box(QMessageBox::Question, titre, texte,
-                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, parent);
+                    annuler ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
+                            : QMessageBox::Yes | QMessageBox::No,
+                    parent);
     // The words of the buttons stay French even without Qt's translations.
     box.button(QMessageBox::Yes)->setText(QStringLiteral("&Oui"));
     box.button(QMessageBox::No)->setText(QStringLiteral("&Non"));
-    box.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuler"));
+    if (annuler) box.button(QMessageBox::Cancel)->setText(QStringLiteral("Annuler"));
     box.setDefaultButton(QMessageBox::Yes);
     box.exec();
     const auto r = box.standardButton(box.clickedButton());

@@ -11,6 +11,9 @@ namespace kestrel::gui {
 
 enum class Reponse { oui, non, annuler };
 
+// The buttons of a question box.
+enum class Boutons { oui_non_annuler, oui_non };
+
 // What a file dialog is asked to show.
 struct DemandeFichier {
     QString titre;      // caption of the dialog
@@ -27,8 +30,10 @@ public:
     // a file that exists.
     virtual QString ouvrir(QWidget* parent, const DemandeFichier& d) = 0;
     virtual QString enregistrer(QWidget* parent, const DemandeFichier& d) = 0;
-    // Yes / no / cancel question.
-    virtual Reponse question(QWidget* parent, const QString& titre, const QString& texte) = 0;
+    // A question with the question icon; Escape or the close button answer
+    // annuler (non when the box has no cancel button).
+    virtual Reponse question(QWidget* parent, const QString& titre, const QString& texte,
+                             Boutons boutons = Boutons::oui_non_annuler) = 0;
     // A box with one OK button; the icon tells how bad it is.
     virtual void message(QWidget* parent, const QString& texte, Icone icone) = 0;
     // A failure the program does not survive (a .pwr that cannot be read, an
@@ -42,7 +47,7 @@ class DialoguesQt : public Dialogues {
 public:
     QString ouvrir(QWidget* parent, const DemandeFichier& d) override;
     QString enregistrer(QWidget* parent, const DemandeFichier& d) override;
-    Reponse question(QWidget* parent, const QString& titre, const QString& texte) override;
+    Reponse question(QWidget* parent, const QString& titre, const QString& texte, Boutons boutons) override;
     void message(QWidget* parent, const QString& texte, Icone icone) override;
     void fin_fatale(QWidget* parent, const QString& rapport) override;
 };
