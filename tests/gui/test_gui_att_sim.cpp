@@ -16,6 +16,12 @@ QLineSeries* serie(att_sim& f, const char* graphe, int i) {
     auto* v = f.findChild<QChartView*>(graphe);
     return static_cast<QLineSeries*>(v->chart()->series().at(i));
 }
+// A data folder of its own, with the atmosphere tables, for its own results file.
+bool avec_tables(const QTemporaryDir& dossier) {
+    for (const char* f : {"flux_solaire.txt", "densite.txt"})
+        if (!QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f))) return false;
+    return true;
+}
 }  // namespace
 
 class TestAttSim : public QObject {
@@ -24,8 +30,7 @@ private slots:
     void pages_du_fichier() {
         // its own data folder, with the atmosphere tables, for its own results file
         QTemporaryDir dossier;
-        for (const char* f : {"flux_solaire.txt", "densite.txt"})
-            QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f)));
+        QVERIFY(avec_tables(dossier));
         Etat etat;
         etat.session.dossier_depart = dossier.path().toStdString();
         etat.session.pas_sim = 1;
@@ -71,8 +76,7 @@ private slots:
     // and No only, then the file is deleted whatever the answer.
     void question_puis_effacement() {
         QTemporaryDir dossier;
-        for (const char* f : {"flux_solaire.txt", "densite.txt"})
-            QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f)));
+        QVERIFY(avec_tables(dossier));
         // a plain file named temp: the data folder cannot take the results
         QFile bouche(dossier.filePath("temp"));
         QVERIFY(bouche.open(QIODevice::WriteOnly));
@@ -100,8 +104,7 @@ private slots:
     // rows written before stay in the file and on the charts.
     void fin_sur_faute() {
         QTemporaryDir dossier;
-        for (const char* f : {"flux_solaire.txt", "densite.txt"})
-            QVERIFY(QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f)));
+        QVERIFY(avec_tables(dossier));
         Etat etat;
         etat.session.dossier_depart = dossier.path().toStdString();
         etat.session.pas_sim = 1;
