@@ -45,7 +45,7 @@ void BM_jour_avec_fichier(benchmark::State& state) {
         ParametresRun p;
         p.fichier = chemin;
         BilanRun b = att_run(e, p);
-        if (b.erreur) state.SkipWithError(texte_erreur(b.erreur).c_str());
+        if (e.faute) state.SkipWithError(texte_erreur(e.faute).c_str());
         pas = b.pas;
     }
     state.counters["pas_par_s"] = benchmark::Counter(static_cast<double>(pas), benchmark::Counter::kIsIterationInvariantRate);

@@ -76,9 +76,7 @@ int lance_attitude(const OptionsAttitude& o) {
 
     BilanRun b = att_run(etat, params);
     if (affiche) std::cerr << "\rattitude : 100 %\n";
-    if (b.erreur) {
-        return signale("attitude : " + texte_erreur(b.erreur), SORTIE_ECHEC);
-    }
+    if (etat.faute) return echec_run(etat.faute);
     if (!o.quiet)
         std::cerr << "kestrel: attitude: " << b.pas << " pas, " << b.enregistrements
                   << " enregistrements dans " << b.fichier << "\n";

@@ -9,6 +9,7 @@
 #include "cli/commun.h"
 #include "cli/export_orbite.h"
 #include "cli/sortie.h"
+#include "core/orbit/ligne_orbite.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"
 #include "core/shell/parcours.h"
@@ -17,43 +18,16 @@ namespace kestrel::cli {
 
 namespace {
 
-constexpr const char* ENTETE =
-    "j,sat_x,sat_y,sat_z,vit_x,vit_y,vit_z,sun_x,sun_y,sun_z,eclipse,anomalie_moy,lon,lat,alt";
-
-// A value that is not finite stops the run like any other numerical fault.
-void verifie_fini(Etat& etat, double j) {
-    const SortiesOrbite& o = etat.orb;
-    const struct {
-        const char* nom;
-        double v;
-    } champs[] = {{"sat_pos", o.sat_pos[0] + o.sat_pos[1] + o.sat_pos[2]},
-                  {"sat_vit", o.sat_vit[0] + o.sat_vit[1] + o.sat_vit[2]},
-                  {"soleil_pos", o.soleil_pos[0] + o.soleil_pos[1] + o.soleil_pos[2]},
-                  {"anomalie_moy", o.anomalie_moy},
-                  {"sat_lon", o.sat_lon},
-                  {"sat_lat", o.sat_lat},
-                  {"sat_alt", o.sat_alt}};
-    for (const auto& c : champs)
-        if (!std::isfinite(c.v)) {
-            signale_faute(etat, CodeErreur::valeur_non_finie, j, c.nom);
-            return;
-        }
+// The column names, comma-separated.
+std::string entete() {
+    std::string l = COLONNES_ORBITE[0];
+    for (std::size_t i = 1; i < std::size(COLONNES_ORBITE); ++i) (l += ',') += COLONNES_ORBITE[i];
+    return l;
 }
 
-void ecrit_ligne(Sortie& out, double j, const SortiesOrbite& o) {
-    std::string l = nombre(j);
-    auto ajoute = [&l](double x) {
-        l += ',';
-        l += nombre(x);
-    };
-    for (double x : o.sat_pos) ajoute(x);
-    for (double x : o.sat_vit) ajoute(x);
-    for (double x : o.soleil_pos) ajoute(x);
-    l += o.eclipse == VRAI ? ",-1" : ",0";
-    ajoute(o.anomalie_moy);
-    ajoute(o.sat_lon);
-    ajoute(o.sat_lat);
-    ajoute(o.sat_alt);
+void ecrit_ligne(Sortie& out, const LigneOrbite& v) {
+    std::string l = nombre(v[0]);
+    for (std::size_t i = 1; i < v.size(); ++i) (l += ',') += nombre(v[i]);
     l += '\n';
     out << l;
 }
@@ -68,15 +42,15 @@ std::string nom_objet(const Orbite& o) {
 // The run kept in memory, then written as OEM or CZML (a fault writes nothing).
 int exporte(Etat& etat, const std::string& format, Sortie& out) {
     std::vector<PointOrbite> points;
+    LigneOrbite v;
     parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
         orb_position(etat, j);
-        if (!etat.faute) verifie_fini(etat, j);
-        if (etat.faute) return false;
+        if (etat.faute || !ligne_orbite_finie(etat.faute, j, etat.orb, v)) return false;
         points.push_back({j, etat.orb.sat_pos, etat.orb.sat_vit});
         return true;
     });
     if (etat.faute) {
-        signale(texte_erreur(etat.faute), SORTIE_ECHEC);
+        echec_run(etat.faute);
         return termine(out, SORTIE_ECHEC);
     }
     std::ostringstream texte;
@@ -104,7 +78,7 @@ Commande enregistre_orbit(CLI::App& app) {
         "(km, km/s, inertial frame of 1950), the Sun's position (km), whether the satellite is in "
         "the Earth's shadow (-1 yes, 0 no), the mean anomaly (rad) and the point below it "
         "(longitude and latitude in radians, altitude in km). Writes one CSV row per date with the "
-        "header " + std::string(ENTETE) + ". Without --start and --end the period runs from the "
+        "header " + entete() + ". Without --start and --end the period runs from the "
         "orbit's epoch to one orbital period later, every 120 s.");
     ajoute_options_communes(c.app, *options);
     auto format = std::make_shared<std::string>("csv");
@@ -118,17 +92,17 @@ Commande enregistre_orbit(CLI::App& app) {
         Sortie out(options->out);
         if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
         if (*format != "csv") return exporte(etat, *format, out);
-        out << ENTETE << '\n';
+        out << entete() << '\n';
+        LigneOrbite v;
         parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
             etat.session.j_courant = j;
             orbite_a_date(etat, j);
-            if (!etat.faute) verifie_fini(etat, j);
-            if (etat.faute) return false;
-            ecrit_ligne(out, j, etat.orb);
+            if (etat.faute || !ligne_orbite_finie(etat.faute, j, etat.orb, v)) return false;
+            ecrit_ligne(out, v);
             return out.ok();
         });
         if (etat.faute) {
-            signale(texte_erreur(etat.faute), SORTIE_ECHEC);
+            echec_run(etat.faute);
             return termine(out, SORTIE_ECHEC);
         }
         return termine(out, SORTIE_OK);

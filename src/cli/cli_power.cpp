@@ -9,6 +9,7 @@
 
 #include "cli/options_power.h"
 #include "cli/sortie.h"
+#include "core/power/ligne_power.h"
 #include "core/power/power.h"
 #include "core/power/resume_power.h"
 #include "core/shell/messages.h"
@@ -18,31 +19,20 @@ namespace kestrel::cli {
 namespace {
 
 void ecrit_entete(Sortie& out) {
-    out << "date,eclipse,flux_sun,flux_alb,flux_ir,pan_angle,pan_target,gen_power,bat_soc,bat_v,bat_i,"
-           "bat_p,p_payload,p_excess,p_loss_ch,p_loss_de,p_loss_gs,p_loss_pl,p_heat,t_bat,t_charge,"
-           "t_discharge";
-    for (int i = 0; i < 39; ++i) out << fmt::format(",node_t_{}", i);
-    for (int i = 0; i < 36; ++i) out << fmt::format(",pan_power_{}", i);
-    for (int i = 0; i < 36; ++i) out << fmt::format(",cell_eff_{}", i);
-    out << "\n";
+    std::string l = nom_colonne_power(0);
+    for (std::size_t i = 1; i < COLONNES_POWER; ++i) (l += ',') += nom_colonne_power(i);
+    out << l << "\n";
 }
 
 void ecrit_ligne(Sortie& out, double date, const PowerRecord& p) {
+    LignePower v;
+    ligne_power(date, p, v);
     std::string l;
     l.reserve(3000);
-    auto ajoute = [&l](double x) {
-        l += ',';
-        l += nombre(x);
-    };
-    l += nombre(date);
-    for (double x : {static_cast<double>(p.eclipse), static_cast<double>(p.flux_sun), p.flux_alb, p.flux_ir,
-                     p.pan_angle, p.pan_target, p.gen_power, p.bat_soc, p.bat_v, p.bat_i, p.bat_p, p.p_payload,
-                     p.p_excess, p.p_loss_ch, p.p_loss_de, p.p_loss_gs, p.p_loss_pl, p.p_heat, p.t_bat,
-                     static_cast<double>(p.t_charge), static_cast<double>(p.t_discharge)})
-        ajoute(x);
-    for (double x : p.node_t) ajoute(x);
-    for (double x : p.pan_power) ajoute(x);
-    for (float x : p.cell_eff) ajoute(x);
+    for (std::size_t i = 0; i < COLONNES_POWER; ++i) {
+        if (i) l += ',';
+        l += nombre(v[i]);
+    }
     l += '\n';
     out << l;
 }

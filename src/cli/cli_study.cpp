@@ -28,10 +28,6 @@ struct OptionsGenerateur {
     std::string vue = "temperature";
 };
 
-int echec_run(const Erreur& e) {
-    return signale(texte_erreur(e), SORTIE_ECHEC);
-}
-
 int lance_batterie(OptionsBatterie o) {
     Etat etat;
     // the study does not walk the project's period: only the files are read

@@ -125,13 +125,19 @@ int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBal
     return termine(out, echec ? SORTIE_ECHEC : SORTIE_OK);
 }
 
+// ",steps" and the names of the summary's figures, in their order.
+std::string colonnes_power() {
+    std::string c = ",steps";
+    for (const char* n : FIGURES_POWER) (c += ',') += n;
+    return c;
+}
+
 int lance_balayage_power(const OptionsPower& op, const OptionsBalayage& o) {
     Etat base;
     if (int r = prepare_power(op, base); r != SORTIE_OK) return r;
     return lance_balayage(
         base, op.communes.out, o,
-        ",steps,eclipse_fraction,soc_min,soc_max,t_bat_min,t_bat_max,gen_power_min,gen_power_max,"
-        "gen_power_mean,energy_balance",
+        colonnes_power().c_str(),
         [](Etat& etat) {
             // a swept period or cells' date may break the ageing rule
             if (!(etat.session.j_debut > etat.pwr.date_cell)) {
@@ -140,9 +146,7 @@ int lance_balayage_power(const OptionsPower& op, const OptionsBalayage& o) {
             }
             const ResumePower r = run_power(etat).resume;
             std::string l = "," + std::to_string(r.pas);
-            for (double x : {r.fraction_eclipse(), r.soc_min, r.soc_max, r.tbat_min, r.tbat_max, r.pg_min,
-                             r.pg_max, r.pg_moyenne(), r.bilan})
-                (l += ',') += nombre(x);
+            for (double x : figures(r)) (l += ',') += nombre(x);
             return l;
         });
 }
@@ -157,8 +161,7 @@ int lance_balayage_attitude(const OptionsCommunes& oc, const OptionsBalayage& o)
         p.pas_ecriture = 32767;
         p.fichier = "/dev/null";  // the figures only, no results file
         p.apres_pas = [&r](const Etat& e) { r.ajoute(e); };
-        const BilanRun b = att_run(etat, p);
-        etat.faute = b.erreur;
+        att_run(etat, p);
         std::string l = "," + std::to_string(r.pas);
         for (double x : {r.vitesse_max, r.roulis, r.tangage, r.lacet}) (l += ',') += nombre(x);
         return l;

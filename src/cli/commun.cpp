@@ -162,4 +162,6 @@ int signale(const std::string& message, int code) {
 
 std::string nombre(double x) { return fmt::format("{:.17g}", x); }
 
+int echec_run(const Erreur& faute) { return signale(texte_erreur(faute), SORTIE_ECHEC); }
+
 }  // namespace kestrel::cli

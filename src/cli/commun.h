@@ -64,4 +64,7 @@ std::string nombre(double x);
 // breaks of the program's own texts kept). Returns code.
 int signale(const std::string& message, int code);
 
+// The fault that ended a run, in the words the windows use; SORTIE_ECHEC.
+int echec_run(const Erreur& faute);
+
 }  // namespace kestrel::cli

@@ -23,8 +23,8 @@ void periode_par_defaut(Etat& etat) {
     etat.session.j_courant = etat.session.j_debut;
 }
 
-void signale_faute(Etat& etat, CodeErreur code, double date, const char* detail) {
-    signale_faute(etat.faute, code, date, detail);
+bool signale_faute(Etat& etat, CodeErreur code, double date, const char* detail, double valeur) {
+    return signale_faute(etat.faute, code, date, detail, valeur);
 }
 
 void orb_position(Etat& etat, double j) { orb_position(etat.orbite, j, etat.orb, etat.faute); }

@@ -34,7 +34,7 @@ double epoque_orbite(const Orbite& o);
 void periode_par_defaut(Etat& etat);
 
 // Records the first fault only; later ones are consequences.
-void signale_faute(Etat& etat, CodeErreur code, double date, const char* detail);
+bool signale_faute(Etat& etat, CodeErreur code, double date, const char* detail, double valeur = 0.0);
 
 // The orbit spine and the frame turns under the names the models and windows
 // use: each reads etat.orbite and etat.pointage, writes etat.orb and records a

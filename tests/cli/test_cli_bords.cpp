@@ -155,3 +155,55 @@ TEST(CliBords, NombresNonFinisRefusesALaLecture) {
          })
         verifie(c);
 }
+
+// A record that is not finite, or that turns the body by more than 2 rad in a
+// step, is never written: the run stops before it with its column and date,
+// and what came before (the head lines and the column names) stays.
+TEST(CliBords, AttitudeArreteeAvantUnEnregistrementSansSens) {
+    // wheel inertia 0.01 kg m2 at byte 308, then wheel speed 1e308 rad/s at byte 332:
+    // om(0) = 1e308 x 180 / pi overflows at the initial record
+    const fs::path inertie = binaire_avec("inertie.att", "n.att", 308, 0.01);
+    fs::copy_file(inertie, projet_neuf() / "inertie.att", fs::copy_options::overwrite_existing);
+    const fs::path roue = binaire_avec("roue.att", "inertie.att", 332, 1e308);
+    const fs::path res = dossier_test() / "r.tmp";
+    const std::string a = "attitude --quiet --out " + res.string() + " ";
+    const std::string depart = "à la date 21/03/2001 13:12:00 (jour 18707.550010)";
+    for (const Cas& c : std::initializer_list<Cas>{
+             {a + "--att " + roue.string(), 1, "valeur non finie de om(0) * (180 / pi) (inf) " + depart},
+             // 1e308 deg/s: 1e308 x pi overflows before the division by 180
+             {a + "--rates 1e308,0,0", 1, "valeur non finie de omega(0) * (180 / pi) (inf) " + depart},
+             // 1000 deg/s on each axis: |w| = 1000 pi / 180 x sqrt(3) = 30.2299894 rad/s,
+             // x 10 s = 302.299894 rad in one step
+             {a + "--rates 1e3,1e3,1e3", 1,
+              "le satellite tourne à 30.2299894 rad/s " + depart + ", soit 302.299894 rad en un pas de 10 s"},
+         }) {
+        verifie(c);
+        const std::string texte = lit_fichier(res);
+        // the four head lines, the empty line and the column names; no record
+        EXPECT_EQ(lignes(texte).size(), 5u) << c.arguments;
+        EXPECT_EQ(texte.find("inf"), std::string::npos) << c.arguments;
+    }
+}
+
+TEST(CliBords, PowerArreteeAvantUneLigneNonFinie) {
+    // line 83: the mass of the first external-panel node, 0 kg: its heat
+    // capacity m cp is 0 and its temperature (column node_t_0) is not finite
+    // after the first step, at the start date
+    const fs::path masse = pwr_avec("masse0.pwr", 83, " 0 ");
+    const fs::path csv = dossier_test() / "p.csv";
+    const std::string message = "valeur non finie de node_t_0 (";
+    const std::string date = ") à la date 21/03/2001 13:12:00 (jour 18707.550010)";
+    for (const std::string& a : {"power --out " + csv.string(), "power --summary --out " + csv.string()}) {
+        const Resultat r = lance(a + " --pwr " + masse.string());
+        EXPECT_EQ(r.code, 1) << a;
+        EXPECT_NE(r.err.find(message), std::string::npos) << r.err;
+        EXPECT_NE(r.err.find(date), std::string::npos) << r.err;
+        const std::string texte = lit_fichier(csv);
+        EXPECT_EQ(texte.find("nan"), std::string::npos) << a;
+        EXPECT_EQ(texte.find("inf"), std::string::npos) << a;
+    }
+    // the rows: the header only; the summary: nothing
+    EXPECT_TRUE(lit_fichier(csv).empty());
+    lance("power --out " + csv.string() + " --pwr " + masse.string());
+    EXPECT_EQ(lignes(lit_fichier(csv)).size(), 1u);
+}

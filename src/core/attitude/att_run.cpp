@@ -1,5 +1,6 @@
 #include "core/attitude/att_run.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cstdint>
@@ -13,6 +14,7 @@
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
 #include "core/shell/dossiers.h"
+#include "core/shell/ligne_finie.h"
 #include "core/etat.h"
 
 namespace kestrel {
@@ -95,11 +97,11 @@ private:
     std::size_t n_ = 0;
 };
 
-void ecrit_record(Ecrivain& w, const Etat& etat, double j, bool roues_actives) {
-    const AttitudeRecord& a = etat.att;
+// The 25 values of the record at date j, each scaled as its column's name says.
+void valeurs_record(const AttitudeRecord& a, double j, bool roues_actives, double (&v)[25]) {
     const double k180 = 180.0 / 3.14159265358979;
     const double k30 = 30.0 / 3.14159265358979;
-    const double v[25] = {j,
+    const double r[25] = {j,
                           a.omega[0] * k180, a.omega[1] * k180, a.omega[2] * k180,
                           a.omega[3] * k180, a.omega[4] * k180, a.omega[5] * k180,
                           a.yd[0] * k180, a.yd[2] * k180, a.yd[1] * k180,
@@ -110,26 +112,31 @@ void ecrit_record(Ecrivain& w, const Etat& etat, double j, bool roues_actives) {
                           roues_actives ? a.om[1] * k180 : 0.0,
                           roues_actives ? a.om[2] * k180 : 0.0,
                           a.ctot[0], a.ctot[1], a.ctot[2]};
+    std::copy(std::begin(r), std::end(r), v);
+}
+
+// The record of the state at date j, checked before anything is written:
+// every column finite, and the body turning by at most 2 rad in a step of dt s
+// (beyond that, a third of a turn a step, the explicit integration no longer
+// means anything). False, with the fault in etat.faute, when it fails.
+bool record_valide(Etat& etat, double j, bool roues_actives, double dt, double (&v)[25]) {
+    valeurs_record(etat.att, j, roues_actives, v);
+    if (!ligne_finie(etat.faute, j, v, EN_TETE)) return false;
+    const double taux = vitesse_corps(etat.att);
+    if (taux * dt > 2.0) {
+        signale_faute(etat, CodeErreur::rotation_trop_rapide, j, "omega", taux);
+        etat.faute.pas = dt;
+        return false;
+    }
+    return true;
+}
+
+void ecrit_record(Ecrivain& w, const double (&v)[25]) {
     for (int i = 0; i < 25; ++i) {
         if (i) w.virgule();
         w.nombre(v[i]);
     }
     w.fin_ligne();
-}
-
-// Name of the first non-finite field of the state, or nullptr.
-const char* champ_non_fini(const AttitudeRecord& a) {
-    auto fini = [](const auto& t) {
-        for (double x : t)
-            if (!std::isfinite(x)) return false;
-        return true;
-    };
-    if (!fini(a.omega)) return "omega";
-    if (!fini(a.yi)) return "yi";
-    if (!fini(a.yd)) return "yd";
-    if (!fini(a.z) || !fini(a.zd)) return "z";
-    if (!fini(a.ctot)) return "ctot";
-    return nullptr;
 }
 
 bool dossier_inscriptible(const fs::path& d) {
@@ -166,6 +173,8 @@ void pas_run(Etat& etat, double dt, double date, double& date_orbite, const Tabl
     date_orbite = attitude_step(etat, dt, date, tables) ? dt / 86400.0 + date : date;
 }
 
+double vitesse_corps(const AttitudeRecord& a) { return std::hypot(a.omega[0], a.omega[1], a.omega[2]); }
+
 BilanRun att_run(Etat& etat, const ParametresRun& p) {
     BilanRun bilan;
     AttitudeRecord& a = etat.att;
@@ -179,61 +188,57 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
     // the tables are read before the file is opened, so a missing one costs nothing
     TablesAtmosphere tables;
     if (Erreur e = charge_tables_atmosphere(etat.session.dossier_depart, tables)) {
-        bilan.erreur = e;
+        etat.faute = e;
         return bilan;
     }
 
     bilan.fichier = p.fichier.empty() ? chemin_resultats(etat.session.dossier_depart) : p.fichier;
     Ecrivain w(bilan.fichier);
     if (bilan.fichier.empty() || !w.ouvert()) {
-        bilan.erreur.code = CodeErreur::ecriture_resultats;
-        bilan.erreur.detail = bilan.fichier.empty() ? std::string("temp/temp.tmp") : bilan.fichier;
+        etat.faute.code = CodeErreur::ecriture_resultats;
+        etat.faute.detail = bilan.fichier.empty() ? std::string("temp/temp.tmp") : bilan.fichier;
         return bilan;
     }
 
     const double debut = etat.session.j_debut;
     const double fin = etat.session.j_fin;
     const double pas = etat.session.pas_sim / 86400.0;  // days
+    const double dt = pas * 86400;
 
-    w.texte("#BeginTime(JulianDays)"), w.virgule(), w.nombre(debut), w.fin_ligne();
-    w.texte("#EndTime(JulianDays)"), w.virgule(), w.nombre(fin), w.fin_ligne();
-    w.texte("#TimeStep(s)"), w.virgule(), w.nombre(pas * 86400), w.fin_ligne();
-    w.fin_ligne();
-    for (int i = 0; i < 25; ++i) {
-        if (i) w.virgule();
-        w.texte(EN_TETE[i]);
+    const char* const TETE[3] = {"#BeginTime(JulianDays)", "#EndTime(JulianDays)", "#TimeStep(s)"};
+    const double tete[3] = {debut, fin, dt};
+    double v[25];
+    // the head, checked, then the initial record, checked: a bad one leaves the lines before it
+    if (ligne_finie(etat.faute, debut, tete, TETE)) {
+        for (int i = 0; i < 3; ++i) w.texte(TETE[i]), w.virgule(), w.nombre(tete[i]), w.fin_ligne();
+        w.fin_ligne();
+        for (int i = 0; i < 25; ++i) {
+            if (i) w.virgule();
+            w.texte(EN_TETE[i]);
+        }
+        w.fin_ligne();
     }
-    w.fin_ligne();
-
-    double j = debut;
-    ecrit_record(w, etat, j, roues_actives);
-    bilan.enregistrements = 1;
+    if (!etat.faute && record_valide(etat, debut, roues_actives, dt, v)) {
+        ecrit_record(w, v);
+        bilan.enregistrements = 1;
+    }
 
     // 16-bit counter as the run has it; it wraps rather than trap past 32767
     const double tous = std::nearbyint(p.pas_ecriture);
     int16_t compteur = 0;
-    double dt = pas * 86400;
     double date_orbite = std::nan("");
-    while (j <= fin) {
+    double j = debut;
+    while (!etat.faute && j <= fin) {
         pas_run(etat, dt, j, date_orbite, tables);
         ++bilan.pas;
-
-        if (etat.faute) {
-            bilan.erreur = etat.faute;
-            break;
-        }
-        if (const char* champ = champ_non_fini(a)) {
-            bilan.erreur.code = CodeErreur::valeur_non_finie;
-            bilan.erreur.detail = champ;
-            bilan.erreur.date = j;
-            break;
-        }
+        // every step's record is checked, written or not: a run stops at its first bad state
+        if (etat.faute || !record_valide(etat, j, roues_actives, dt, v)) break;
 
         if (p.apres_pas) p.apres_pas(etat);
         compteur = static_cast<int16_t>(compteur + 1);
         if (compteur == tous) {
             compteur = 0;
-            ecrit_record(w, etat, j, roues_actives);
+            ecrit_record(w, v);
             ++bilan.enregistrements;
         }
         if (p.progression) {
@@ -244,9 +249,9 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
     }
 
     if (!w.ok() || !w.ferme()) {
-        if (!bilan.erreur) {
-            bilan.erreur.code = CodeErreur::ecriture_resultats;
-            bilan.erreur.detail = bilan.fichier;
+        if (!etat.faute) {
+            etat.faute.code = CodeErreur::ecriture_resultats;
+            etat.faute.detail = bilan.fichier;
         }
     }
     return bilan;

@@ -16,6 +16,7 @@
 
 namespace kestrel {
 
+struct AttitudeRecord;
 struct Etat;
 struct TablesAtmosphere;
 
@@ -27,7 +28,6 @@ struct ParametresRun {
 };
 
 struct BilanRun {
-    Erreur erreur;             // first failure; what was written stays on disk
     std::string fichier;       // path actually written
     long pas = 0;              // steps run
     long enregistrements = 0;  // records written, the initial one included
@@ -41,9 +41,14 @@ std::string chemin_resultats(const std::string& dossier_depart);
 
 // From session.j_debut to session.j_fin by session.pas_sim seconds. Reads the
 // atmosphere tables of session.dossier_depart first, into an object of its
-// own: runs in parallel threads share nothing. Stops at the first numerical
-// fault or non-finite state, reporting its date.
+// own: runs in parallel threads share nothing. Every step's record is checked
+// before it is written: the run stops at the first numerical fault, the first
+// column that is not finite, or a body turning by more than 2 rad in a step,
+// with the fault (and its date) in etat.faute; what was written stays.
 BilanRun att_run(Etat& etat, const ParametresRun& p);
+
+// The body's rate |omega(0..2)|, rad/s, free of overflow for huge rates.
+double vitesse_corps(const AttitudeRecord& a);
 
 // One step of the run at `date` (days), dt in s: the orbit is brought to
 // `date` unless the step before left it there (date_orbite: the date etat.orb

@@ -8,6 +8,7 @@
 
 #include "core/etat.h"
 #include "core/power/flux.h"
+#include "core/power/ligne_power.h"
 #include "core/power/panneau.h"
 #include "core/shell/parcours.h"
 
@@ -148,6 +149,7 @@ ResultatGenerateur etude_generateur(Etat& etat, const std::function<void(double)
     power_state_init(etat);
     const double debut = s.j_debut, fin = s.j_fin;
     const int32_t pas = s.pas_sim;
+    LignePower ligne;
     parcours_dates(debut, fin, pas, [&](double j) {
         // The window serves events between steps: the run keeps its own step.
         etat.session.pas_sim = pas;
@@ -155,7 +157,7 @@ ResultatGenerateur etude_generateur(Etat& etat, const std::function<void(double)
         power_step(etat);
         if (etat.pwr.alerte_charge) r.alerte_charge = true;
         etat.pwr.alerte_charge = false;
-        if (etat.faute || !power_etat_fini(etat, j)) return false;
+        if (etat.faute || !ligne_power_finie(etat, j, ligne)) return false;
         r.dates.push_back(j);
         r.eclipses.push_back(etat.pwr.eclipse == VRAI);
         ajoute_ligne(etat, r);

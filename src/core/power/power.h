@@ -18,8 +18,4 @@ ConfigPower configuration(const PowerRecord& p);
 void power_state_init(Etat& etat);
 void power_step(Etat& etat);
 
-// False, with a valeur_non_finie fault naming the field and `date`, when a
-// working field is NaN or infinite.
-bool power_etat_fini(Etat& etat, double date);
-
 }  // namespace kestrel

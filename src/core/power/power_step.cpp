@@ -2,7 +2,6 @@
 // environment, (panel pointing), generator on the last temperatures,
 // management, then the thermal model with this step's heat.
 #include <cmath>
-#include <cstdio>
 
 #include "core/etat.h"
 #include "core/power/batterie.h"
@@ -72,40 +71,6 @@ void power_step(Etat& etat) {
             thermal_faces(etat);
             break;
     }
-}
-
-bool power_etat_fini(Etat& etat, double date) {
-    const PowerRecord& p = etat.pwr;
-    char nom[32];
-    auto faute = [&](const char* champ, int i) {
-        if (i >= 0)
-            std::snprintf(nom, sizeof nom, "%s[%d]", champ, i);
-        else
-            std::snprintf(nom, sizeof nom, "%s", champ);
-        signale_faute(etat, CodeErreur::valeur_non_finie, date, nom);
-        return false;
-    };
-    for (int i = 0; i < 39; ++i)
-        if (!std::isfinite(p.node_t[i])) return faute("node_t", i);
-    for (int i = 0; i < 36; ++i) {
-        if (!std::isfinite(p.pan_power[i])) return faute("pan_power", i);
-        if (!std::isfinite(p.cell_eff[i])) return faute("cell_eff", i);
-    }
-    const struct {
-        const char* nom;
-        double v;
-    } champs[] = {{"gen_power", p.gen_power},   {"t_bat", p.t_bat},         {"pan_angle", p.pan_angle},
-                  {"pan_target", p.pan_target}, {"sun_z", p.sun_z},         {"sun_sxy", p.sun_sxy},
-                  {"sun_az", p.sun_az},         {"nad_z", p.nad_z},         {"nad_sxy", p.nad_sxy},
-                  {"nad_az", p.nad_az},         {"flux_sun", p.flux_sun},   {"flux_alb", p.flux_alb},
-                  {"flux_ir", p.flux_ir},       {"earth_half", p.earth_half}, {"sun_nadir_cos", p.sun_nadir_cos},
-                  {"bat_soc", p.bat_soc},       {"bat_v", p.bat_v},         {"bat_i", p.bat_i},
-                  {"bat_p", p.bat_p},           {"p_payload", p.p_payload}, {"p_excess", p.p_excess},
-                  {"p_loss_ch", p.p_loss_ch},   {"p_loss_de", p.p_loss_de}, {"p_loss_gs", p.p_loss_gs},
-                  {"p_loss_pl", p.p_loss_pl},   {"p_heat", p.p_heat}};
-    for (const auto& c : champs)
-        if (!std::isfinite(c.v)) return faute(c.nom, -1);
-    return true;
 }
 
 }  // namespace kestrel

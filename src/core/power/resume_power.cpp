@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "core/power/ligne_power.h"
 #include "core/power/power.h"
+#include "core/shell/ligne_finie.h"
 #include "core/shell/parcours.h"
 #include "core/shell/types.h"
 
@@ -27,6 +29,8 @@ BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRec
     etat.pwr.t_charge = 0;
     etat.pwr.t_discharge = 0;
     const double pas_s = etat.session.pas_sim;
+    LignePower ligne;
+    double derniere = etat.session.j_debut;
     parcours_dates(etat.session.j_debut, etat.session.j_fin, pas_s, [&](double j) {
         etat.session.j_courant = j;
         power_step(etat);
@@ -34,11 +38,18 @@ BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRec
             b.alerte_charge = true;
             etat.pwr.alerte_charge = false;
         }
-        if (etat.faute || !power_etat_fini(etat, j)) return false;
+        if (etat.faute || !ligne_power_finie(etat, j, ligne)) return false;
+        derniere = j;
         b.resume.ajoute(etat.pwr, pas_s);
         return !chaque || chaque(j, etat.pwr);
     });
+    if (!etat.faute) ligne_finie(etat.faute, derniere, figures(b.resume), FIGURES_POWER);
     return b;
+}
+
+std::array<double, 9> figures(const ResumePower& r) {
+    return {r.fraction_eclipse(), r.soc_min, r.soc_max, r.tbat_min, r.tbat_max,
+            r.pg_min,             r.pg_max,  r.pg_moyenne(), r.bilan};
 }
 
 }  // namespace kestrel

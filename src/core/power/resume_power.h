@@ -2,6 +2,7 @@
 // window walks it, and the figures that sum it up. `kestrel power --summary`
 // and the power sweeps both come here, so their figures are the same.
 #pragma once
+#include <array>
 #include <functional>
 #include <limits>
 
@@ -27,8 +28,15 @@ struct BilanPower {
 };
 
 // power_state_init, then one power_step per date of the session's period,
-// `chaque(date, record)` after each; stops at the first fault (etat.faute)
-// or when `chaque` returns false.
+// its row checked (ligne_power_finie), then `chaque(date, record)`; stops at
+// the first fault (etat.faute) or when `chaque` returns false. The summary's
+// figures are checked finite at the end of a run that went through.
 BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRecord&)>& chaque = {});
+
+// The summary's figures in the order of their names.
+inline constexpr const char* FIGURES_POWER[9] = {"eclipse_fraction", "soc_min",       "soc_max",
+                                                  "t_bat_min",        "t_bat_max",     "gen_power_min",
+                                                  "gen_power_max",    "gen_power_mean", "energy_balance"};
+std::array<double, 9> figures(const ResumePower& r);
 
 }  // namespace kestrel

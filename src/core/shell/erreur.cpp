@@ -40,6 +40,7 @@ std::string cause_systeme(int numero) {
 }
 
 std::string nombre_lisible(double x) {
+    if (std::isnan(x)) return "nan";  // whatever its sign bit
     // whole numbers (steps, counts) in full up to 15 digits
     if (x == std::floor(x) && std::fabs(x) < 1e15) return fmt::format("{:.0f}", x);
     return fmt::format("{:.10g}", x);
@@ -60,11 +61,13 @@ std::string texte_lisible(const std::string& s, std::size_t max) {
     return r;
 }
 
-void signale_faute(Erreur& faute, CodeErreur code, double date, const char* detail) {
-    if (faute) return;
+bool signale_faute(Erreur& faute, CodeErreur code, double date, const char* detail, double valeur) {
+    if (faute) return false;
     faute.code = code;
     faute.date = date;
     faute.detail = detail ? detail : "";
+    faute.valeur = valeur;
+    return false;
 }
 
 std::string texte_erreur(const Erreur& e) {
@@ -108,8 +111,8 @@ std::string texte_erreur(const Erreur& e) {
                 "Calcul interrompu : le satellite passe sous le rayon d'ombre de 6428 km à la date {}",
                 texte_date(e.date));
         case CodeErreur::valeur_non_finie:
-            return fmt::format("Calcul interrompu : valeur non finie de {} à la date {}", detail,
-                               texte_date(e.date));
+            return fmt::format("Calcul interrompu : valeur non finie de {} ({}) à la date {}", detail,
+                               nombre_lisible(e.valeur), texte_date(e.date));
         case CodeErreur::faute_calcul:
             return fmt::format("Calcul interrompu : erreur de calcul ({}) à la date {}", detail,
                                texte_date(e.date));
@@ -119,6 +122,12 @@ std::string texte_erreur(const Erreur& e) {
             return fmt::format("Recharge abandonnée : la batterie n'est toujours pas pleine après {} de "
                                "charge. Le courant de charge est trop faible.",
                                e.detail);
+        case CodeErreur::rotation_trop_rapide:
+            return fmt::format("Calcul interrompu : le satellite tourne à {} rad/s à la date {}, soit {} rad en "
+                               "un pas de {} s ; au-delà de 2 rad par pas l'intégration n'a plus de sens, "
+                               "réduisez le pas",
+                               nombre_lisible(e.valeur), texte_date(e.date), nombre_lisible(e.valeur * e.pas),
+                               nombre_lisible(e.pas));
         case CodeErreur::moyen_mouvement:
             return fmt::format("Orbite refusée : moyen mouvement {} tours/jour ({}) ; "
                                "un nombre fini et positif est attendu",

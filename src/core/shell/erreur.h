@@ -20,10 +20,11 @@ enum class CodeErreur {
     // numerical faults of a run (date = day count of the step)
     non_convergence,        // an iteration passed its safety cap (detail = solver)
     sous_rayon_ombre,       // satellite inside the 6428 km shadow radius
-    valeur_non_finie,       // NaN or infinity in the state (detail = field)
+    valeur_non_finie,       // NaN or infinity in a row (detail = column, valeur = the value)
     faute_calcul,           // any other floating-point fault (detail = where)
     date_cellules,          // start date not after "Date initiale cellules"
     recharge_trop_longue,   // battery study: not full after its cap (detail = hh:mm:ss)
+    rotation_trop_rapide,   // attitude: body rate x step over 2 rad (valeur = rad/s, pas = s)
     // a period refused before the run (detail = which value, valeur, origine)
     moyen_mouvement,        // orbit mean motion not finite or not positive
     periode_non_finie,      // a date or the step is NaN or infinite
@@ -40,13 +41,15 @@ struct Erreur {
     long ligne = 0;      // line number in a text file where it applies
     double valeur = 0.0; // the refused value where it applies
     std::string origine = {};  // where the refused value came from (file and line, option)
+    double pas = 0.0;    // s, the run's step where it applies
 
     explicit operator bool() const { return code != CodeErreur::aucune; }
 };
 
 // Records a fault of a run in `faute` unless one is already there: the first
-// fault is the cause, later ones its consequences.
-void signale_faute(Erreur& faute, CodeErreur code, double date, const char* detail);
+// fault is the cause, later ones its consequences. False when it was recorded
+// (so a check can end with `return signale_faute(...)`), as when it was not.
+bool signale_faute(Erreur& faute, CodeErreur code, double date, const char* detail, double valeur = 0.0);
 
 // The French text shown to the user for this failure. Texts that came from
 // outside (file names, file contents) pass through texte_lisible.

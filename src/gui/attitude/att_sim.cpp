@@ -170,7 +170,7 @@ void att_sim::att_run() {
     temp_calcul_->setVisible(false);
     fichier_temp_ = QString::fromStdString(b.fichier);
     // a fault ends the run; the records already written stay and are drawn
-    if (b.erreur) dialogues_.message(this, QString::fromStdString(texte_erreur(b.erreur)), Icone::critique);
+    if (etat_.faute) dialogues_.message(this, QString::fromStdString(texte_erreur(etat_.faute)), Icone::critique);
 
     pages_ = pas_ > 0 ? pages_resultats(debut_, fin_, pas_) : 1;
     page_ = 0;

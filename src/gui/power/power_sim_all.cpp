@@ -12,6 +12,7 @@
 #include "core/etat.h"
 #include "core/power/affichage_sim.h"
 #include "core/power/geometrie_vue.h"
+#include "core/power/ligne_power.h"
 #include "core/power/power.h"
 #include "core/shell/messages.h"
 #include "power/images_sim.h"
@@ -164,7 +165,8 @@ void power_sim_all::signale_fautes() {
         etat_.pwr.alerte_charge = false;
         dialogues_.message(this, QString::fromUtf8(msg::incompat_charge), Icone::critique);
     }
-    if (etat_.faute || !power_etat_fini(etat_, etat_.session.j_courant)) {
+    LignePower ligne;
+    if (etat_.faute || !ligne_power_finie(etat_, etat_.session.j_courant, ligne)) {
         // Paused, not stopped: a stop would reset and step again into the same fault.
         sim_.sim_state = SIM_PAUSE;
         const std::string texte = texte_erreur(etat_.faute);

@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <limits>
+#include <tuple>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -56,16 +58,23 @@ Etat etat_run() {
     return e;
 }
 
-BilanRun lance(Etat e, ParametresRun p = {}) {
+// the run's bilan with the fault it left in the state
+struct Issue : BilanRun {
+    Erreur erreur;
+};
+
+Issue lance(Etat e, ParametresRun p = {}) {
     p.fichier = FICHIER;
-    return att_run(e, p);
+    Issue r{att_run(e, p), {}};
+    r.erreur = e.faute;
+    return r;
 }
 
 TEST(AttRun, TeteEtNombreDEnregistrements) {
     ParametresRun p;
     std::vector<double> progres;
     p.progression = [&](double pc) { progres.push_back(pc); };
-    BilanRun b = lance(etat_run(), p);
+    Issue b = lance(etat_run(), p);
     ASSERT_FALSE(b.erreur) << texte_erreur(b.erreur);
     EXPECT_EQ(b.pas, 10);
     EXPECT_EQ(b.enregistrements, 11);  // initial state + one a step
@@ -106,7 +115,7 @@ TEST(AttRun, UnEnregistrementTousLesNPas) {
     }
     Etat e = etat_run();
     e.session.j_fin = e.session.j_debut;
-    BilanRun b = lance(e);
+    Issue b = lance(e);
     EXPECT_FALSE(b.erreur);
     EXPECT_EQ(b.pas, 1);
     EXPECT_EQ(lit().lignes.size(), 5u + 2u);
@@ -132,7 +141,7 @@ TEST(AttRun, EchecsNommes) {
     // missing tables are named
     Etat e = etat_run();
     e.session.dossier_depart = "/nonexistent-kestrel-folder";
-    BilanRun b = lance(e);
+    Issue b = lance(e);
     EXPECT_EQ(b.erreur.code, CodeErreur::fichier_donnees);
     EXPECT_NE(texte_erreur(b.erreur).find("flux_solaire.txt"), std::string::npos);
     fs::remove(FICHIER);
@@ -164,6 +173,39 @@ TEST(AttRun, CheminParDefautDansTemp) {
     EXPECT_FALSE(fs::exists(installe / "temp"));
     if (ancien) ::setenv("XDG_DATA_HOME", sauve.c_str(), 1); else ::unsetenv("XDG_DATA_HOME");
     fs::remove_all(d);
+}
+
+TEST(AttRun, ArretAvantUnPasDePlusDeDeuxRadians) {
+    // A jet torque on x far above the others (ctot is a few 1e-5 N.m), diagonal
+    // inertia: wx grows by dt jets / Ixx each step, to within 1e-3 rad/s. With jets = -0.015 Ixx and
+    // dt = 10 s, wx = 0.15 rad/s after the first step (1.5 rad a step: written)
+    // and 0.3 rad/s after the second (3 rad a step): the run stops there, at
+    // the second step's date, with the head, the initial record and one more.
+    Etat e = etat_run();
+    e.att.jets = {-0.015 * e.att.I(0, 0), 0, 0};
+    const Issue b = lance(e);
+    EXPECT_EQ(b.erreur.code, CodeErreur::rotation_trop_rapide);
+    EXPECT_EQ(b.erreur.date, 18000.0 + 10.0 / 86400);
+    EXPECT_NEAR(b.erreur.valeur, 0.3, 1e-3);
+    EXPECT_EQ(b.erreur.pas, 10.0);
+    EXPECT_EQ(b.enregistrements, 2);
+    EXPECT_EQ(lit().lignes.size(), 5u + 2u);
+    // day 18000 is 14 April 1999; the second step starts 10 s into it
+    EXPECT_NE(texte_erreur(b.erreur).find("rad/s à la date 14/04/1999 00:00:10 (jour 18000.000116), soit "),
+              std::string::npos)
+        << texte_erreur(b.erreur);
+}
+
+TEST(AttRun, TeteNonFinieRienNEstEcrit) {
+    // an end date that is not finite: not even the head is written
+    Etat e = etat_run();
+    e.session.j_fin = std::numeric_limits<double>::infinity();
+    const Issue b = lance(e);
+    EXPECT_EQ(std::tuple(b.erreur.code, b.erreur.detail, b.erreur.date),
+              std::tuple(CodeErreur::valeur_non_finie, std::string("#EndTime(JulianDays)"), 18000.0));
+    EXPECT_EQ(b.enregistrements, 0);
+    EXPECT_EQ(b.pas, 0);
+    EXPECT_TRUE(lit().lignes.empty());
 }
 
 }  // namespace

@@ -49,30 +49,35 @@ Etat etat_cas(int k) {
     return e;
 }
 
-BilanRun lance(int k, const std::string& fichier) {
+// the run's bilan, and its fault in `faute`
+BilanRun lance(int k, const std::string& fichier, Erreur& faute) {
     Etat e = etat_cas(k);
     ParametresRun p;
     p.fichier = fichier;
-    return att_run(e, p);
+    const BilanRun b = att_run(e, p);
+    faute = e.faute;
+    return b;
 }
 
 TEST(RunsParalleles, MemesOctetsQuUnApresLAutre) {
     std::string seul[2], fils[2];
     for (int k = 0; k < 2; ++k) {
-        const BilanRun b = lance(k, nom("seul" + std::to_string(k)));
-        ASSERT_FALSE(b.erreur) << texte_erreur(b.erreur);
+        Erreur faute;
+        const BilanRun b = lance(k, nom("seul" + std::to_string(k)), faute);
+        ASSERT_FALSE(faute) << texte_erreur(faute);
         EXPECT_GT(b.enregistrements, 400);
         seul[k] = contenu(b.fichier);
     }
     ASSERT_NE(seul[0], seul[1]);
 
     BilanRun b[2];
-    std::thread t0([&] { b[0] = lance(0, nom("fil0")); });
-    std::thread t1([&] { b[1] = lance(1, nom("fil1")); });
+    Erreur faute[2];
+    std::thread t0([&] { b[0] = lance(0, nom("fil0"), faute[0]); });
+    std::thread t1([&] { b[1] = lance(1, nom("fil1"), faute[1]); });
     t0.join();
     t1.join();
     for (int k = 0; k < 2; ++k) {
-        ASSERT_FALSE(b[k].erreur) << texte_erreur(b[k].erreur);
+        ASSERT_FALSE(faute[k]) << texte_erreur(faute[k]);
         fils[k] = contenu(b[k].fichier);
         EXPECT_EQ(fils[k], seul[k]) << "run " << k;
     }

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 #include "core/power/environnement.h"
+#include "core/power/ligne_power.h"
 #include "core/power/power.h"
 #include "core/shell/parcours.h"
 #include "outils_power.h"
@@ -80,7 +82,8 @@ TEST(PowerStep, ADayInEachLayoutStaysFiniteWithEclipsesAtTheExpectedFraction) {
         parcours_dates(e.session.j_debut, e.session.j_debut + 1, 30, [&](double j) {
             e.session.j_courant = j;
             power_step(e);
-            if (!power_etat_fini(e, j) || e.faute) return false;
+            LignePower ligne;
+            if (e.faute || !ligne_power_finie(e, j, ligne)) return false;
             ++pas;
             eclipses += e.pwr.eclipse == VRAI;
             soc_borne = soc_borne && e.pwr.bat_soc >= 0 && e.pwr.bat_soc <= 1;
@@ -98,16 +101,32 @@ TEST(PowerStep, ADayInEachLayoutStaysFiniteWithEclipsesAtTheExpectedFraction) {
 }
 
 TEST(PowerStep, NonFiniteValueIsNamed) {
-    Etat e, f;
-    EXPECT_TRUE(power_etat_fini(e, 18000.0));
-    e.pwr.node_t[12] = std::nan("");
-    EXPECT_FALSE(power_etat_fini(e, 18000.25));
-    EXPECT_EQ(e.faute.code, CodeErreur::valeur_non_finie);
-    EXPECT_EQ(e.faute.detail, "node_t[12]");
-    EXPECT_EQ(e.faute.date, 18000.25);
-    f.pwr.bat_soc = INFINITY;
-    EXPECT_FALSE(power_etat_fini(f, 1.0));
-    EXPECT_EQ(f.faute.detail, "bat_soc");
+    // the row's columns: date, 21 scalars, then node_t_0..38 from column 22,
+    // pan_power_0..35 from 61, cell_eff_0..35 from 97
+    const struct {
+        const char* nom;
+        std::size_t colonne;
+        void (*casse)(PowerRecord&);
+    } cas[] = {
+        {"bat_soc", 8, [](PowerRecord& p) { p.bat_soc = INFINITY; }},
+        {"node_t_12", 22 + 12, [](PowerRecord& p) { p.node_t[12] = std::nan(""); }},
+        {"pan_power_35", 61 + 35, [](PowerRecord& p) { p.pan_power[35] = -INFINITY; }},
+        {"cell_eff_0", 97, [](PowerRecord& p) { p.cell_eff[0] = NAN; }},
+        {"t_discharge", 21, nullptr},
+    };
+    for (const auto& c : cas) {
+        EXPECT_EQ(nom_colonne_power(c.colonne), c.nom);
+        if (!c.casse) continue;
+        Etat e;
+        LignePower v;
+        EXPECT_TRUE(ligne_power_finie(e, 18000.0, v));
+        EXPECT_EQ(v[0], 18000.0);
+        c.casse(e.pwr);
+        EXPECT_FALSE(ligne_power_finie(e, 18000.25, v));
+        EXPECT_EQ(std::tuple(e.faute.code, e.faute.detail, e.faute.date),
+                  std::tuple(CodeErreur::valeur_non_finie, std::string(c.nom), 18000.25));
+    }
+    EXPECT_EQ(COLONNES_POWER, 133u);
 }
 
 }  // namespace
