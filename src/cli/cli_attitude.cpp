@@ -76,7 +76,7 @@ int lance_attitude(const OptionsAttitude& o) {
 
     BilanRun b = att_run(etat, params);
     if (affiche) std::cerr << "\rattitude : 100 %\n";
-    if (etat.faute) return echec_run(etat.faute);
+    if (rapporte_run(etat.faute, etat.alertes) != SORTIE_OK) return SORTIE_ECHEC;
     if (!o.quiet)
         std::cerr << "kestrel: attitude: " << b.pas << " pas, " << b.enregistrements
                   << " enregistrements dans " << b.fichier << "\n";

@@ -59,11 +59,7 @@ int lance_power(const OptionsPower& o) {
         if (!o.resume) ecrit_ligne(out, j, p);
         return out.ok();  // a failed write stops the run
     });
-    if (bilan.alerte_charge) std::cerr << msg::incompat_charge << "\n";
-    if (etat.faute) {
-        signale(texte_erreur(etat.faute), SORTIE_ECHEC);
-        return termine(out, SORTIE_ECHEC);
-    }
+    if (rapporte_run(etat.faute, etat.alertes) != SORTIE_OK) return termine(out, SORTIE_ECHEC);
     if (o.resume) ecrit_resume(out, bilan.resume, etat);
     return termine(out, SORTIE_OK);
 }

@@ -11,7 +11,6 @@
 #include "cli/sortie.h"
 #include "core/power/etude_batterie.h"
 #include "core/power/etude_generateur.h"
-#include "core/shell/messages.h"
 
 namespace kestrel::cli {
 
@@ -42,7 +41,6 @@ int lance_batterie(OptionsBatterie o) {
     Sortie out(o.communes.out);
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
     const ResultatBatterie r = etude_batterie(etat.pwr, o.e);
-    if (r.alerte_charge) std::cerr << msg::incompat_charge << "\n";
 
     out << fmt::format("DOD %,{}\n", r.dod);
     out << "Temps de recharge," << texte_duree(r.temps_recharge) << "\n";
@@ -52,10 +50,7 @@ int lance_batterie(OptionsBatterie o) {
         l = fmt::format("{},{},{},{},{}\n", x.t, static_cast<char>(x.phase), nombre(x.s), nombre(x.v), nombre(x.i));
         out << l;
     }
-    if (r.faute) {
-        echec_run(r.faute);
-        return termine(out, SORTIE_ECHEC);
-    }
+    if (rapporte_run(r.faute, r.alertes) != SORTIE_OK) return termine(out, SORTIE_ECHEC);
     return termine(out, SORTIE_OK);
 }
 
@@ -88,7 +83,6 @@ int lance_generateur(const OptionsGenerateur& o) {
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
     const ResultatGenerateur r = etude_generateur(etat);
     if (r.faute.code == CodeErreur::date_cellules) return echec_run(r.faute);
-    if (r.alerte_charge) std::cerr << msg::incompat_charge << "\n";
 
     const TableGenerateur& t = r.table(vue);
     out << "date (j),eclipse";
@@ -106,10 +100,7 @@ int lance_generateur(const OptionsGenerateur& o) {
         out << l;
     }
     ecrit_resume(r, t);
-    if (r.faute) {
-        echec_run(r.faute);
-        return termine(out, SORTIE_ECHEC);
-    }
+    if (rapporte_run(r.faute, r.alertes) != SORTIE_OK) return termine(out, SORTIE_ECHEC);
     return termine(out, SORTIE_OK);
 }
 

@@ -11,6 +11,7 @@
 #include "core/project/projet.h"
 #include "core/project/tle.h"
 #include "core/shell/calendrier.h"
+#include "core/shell/messages.h"
 #include "core/shell/periode.h"
 
 namespace kestrel::cli {
@@ -162,6 +163,9 @@ int signale(const std::string& message, int code) {
 
 std::string nombre(double x) { return fmt::format("{:.17g}", x); }
 
-int echec_run(const Erreur& faute) { return signale(texte_erreur(faute), SORTIE_ECHEC); }
+int rapporte_run(const Erreur& faute, const Alertes& alertes) {
+    if (alertes.incompat_charge) signale(msg::incompat_charge, SORTIE_OK);
+    return faute ? signale(texte_erreur(faute), SORTIE_ECHEC) : SORTIE_OK;
+}
 
 }  // namespace kestrel::cli

@@ -64,7 +64,10 @@ std::string nombre(double x);
 // breaks of the program's own texts kept). Returns code.
 int signale(const std::string& message, int code);
 
-// The fault that ended a run, in the words the windows use; SORTIE_ECHEC.
-int echec_run(const Erreur& faute);
+// What a run left in its fault channel, in the words the windows use, one
+// line each on stderr: the warning of the battery's charge curve, then the
+// fault that ended the run. SORTIE_ECHEC after a fault, else SORTIE_OK.
+int rapporte_run(const Erreur& faute, const Alertes& alertes = {});
+inline int echec_run(const Erreur& faute) { return rapporte_run(faute); }
 
 }  // namespace kestrel::cli

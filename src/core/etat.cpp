@@ -23,6 +23,11 @@ void periode_par_defaut(Etat& etat) {
     etat.session.j_courant = etat.session.j_debut;
 }
 
+void vide_canal(Etat& etat) {
+    etat.faute = {};
+    etat.alertes = {};
+}
+
 bool signale_faute(Etat& etat, CodeErreur code, double date, const char* detail, double valeur) {
     return signale_faute(etat.faute, code, date, detail, valeur);
 }

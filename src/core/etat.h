@@ -17,10 +17,13 @@ struct Etat {
     PowerRecord pwr;
     AttitudeRecord att;
 
-    // First numerical fault met by a model during a run (non-convergence,
-    // shadow radius, non-finite value). Models set it and carry on with what
-    // they have; the run loop checks it after each step and stops.
+    // The run's fault channel. `faute`: the first fault of a step (code, date,
+    // column or field, value), recorded by a model or by the check of the row
+    // (non-convergence, shadow radius, non-finite value); the model carries on
+    // with what it has and the run loop stops after that step. `alertes`: what
+    // the run goes on through. Both are emptied when a run starts.
     Erreur faute;
+    Alertes alertes;
 
     // A new project: every record at its defaults and the default period,
     // from the orbit epoch to one orbital period later.
@@ -32,6 +35,9 @@ double epoque_orbite(const Orbite& o);
 
 // The start-up period: j_debut = epoch, j_fin = epoch + 1 / orb_moy_mvt.
 void periode_par_defaut(Etat& etat);
+
+// Empties the fault channel: a run starts with no fault and no warning.
+void vide_canal(Etat& etat);
 
 // Records the first fault only; later ones are consequences.
 bool signale_faute(Etat& etat, CodeErreur code, double date, const char* detail, double valeur = 0.0);

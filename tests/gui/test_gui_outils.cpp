@@ -1,10 +1,13 @@
 // The pieces every window shares: the dialog filter form, the check of an
-// input box at focus loss, the registry of windows to reload, the key pictures.
+// input box at focus loss, the registry of windows to reload, the key pictures,
+// the report of what a run left in its fault channel.
 #include <QtTest>
 #include <QtWidgets>
 
 #include "faux_dialogues.h"
+#include "core/shell/messages.h"
 #include "shell/icones.h"
+#include "shell/rapport_run.h"
 #include "shell/registre.h"
 #include "shell/saisie.h"
 
@@ -50,6 +53,7 @@ private slots:
     void saisie_verifiee_en_quittant();
     void registre_par_tag();
     void chaque_cle_a_son_dessin();
+    void rapport_du_canal_de_fautes();
 };
 
 void TestOutils::filtre_en_forme_qt() {
@@ -132,6 +136,41 @@ void TestOutils::chaque_cle_a_son_dessin() {
     }
     // Two keys of different meaning look different.
     QVERIFY(gui::dessin_cle("bat").toImage() != gui::dessin_cle("therm").toImage());
+}
+
+void TestOutils::rapport_du_canal_de_fautes() {
+    using kestrel::Alertes;
+    using kestrel::CodeErreur;
+    using kestrel::Erreur;
+    const QString incompat = QString::fromUtf8(kestrel::msg::incompat_charge);
+    Erreur kepler;
+    kepler.code = CodeErreur::non_convergence;
+    kepler.detail = "équation de Kepler";
+    kepler.date = 18000.25;  // 14/04/1999 06:00
+    const QString texte_kepler = QString::fromUtf8("Calcul interrompu : équation de Kepler ne converge pas à la "
+                                                   "date 14/04/1999 06:00:00 (jour 18000.250000)");
+    Erreur cellules;
+    cellules.code = CodeErreur::date_cellules;
+    Alertes charge, singulier;
+    charge.incompat_charge = true;
+    singulier.systeme_singulier = true;
+    const struct {
+        Erreur faute;
+        Alertes alertes;
+        QList<Message> attendus;
+    } cas[] = {
+        {{}, {}, {}},
+        {{}, singulier, {}},  // the run went on through it: nothing to say
+        {kepler, {}, {{texte_kepler, Icone::critique}}},
+        {cellules, {}, {{QString::fromUtf8(kestrel::msg::date_cellules), Icone::avertissement}}},
+        // the warning first, then the fault that ended the run
+        {kepler, charge, {{incompat, Icone::critique}, {texte_kepler, Icone::critique}}},
+    };
+    for (const auto& c : cas) {
+        FauxDialogues d;
+        gui::rapporte_run(d, nullptr, c.faute, c.alertes);
+        QCOMPARE(d.messages, c.attendus);
+    }
 }
 
 QTEST_MAIN(TestOutils)

@@ -183,7 +183,7 @@ BilanRun att_run(Etat& etat, const ParametresRun& p) {
     bool roues_actives = std::fabs(a.OM_init[0]) >= 0.0001 || std::fabs(a.OM_init[1]) >= 0.0001 ||
                          std::fabs(a.OM[2]) >= 0.0001;
     attitude_init(etat);
-    etat.faute = {};
+    vide_canal(etat);
 
     // the tables are read before the file is opened, so a missing one costs nothing
     TablesAtmosphere tables;

@@ -224,7 +224,12 @@ bool attitude_step(Etat& etat, double dt, double date, const TablesAtmosphere& t
         for (int j = 0; j < n; ++j)
             Ar[i + n * j] = M[red.lignes[static_cast<std::size_t>(i)]][red.colonnes[static_cast<std::size_t>(j)]];
     }
-    if (resout_lineaire(n, Ar, br, x) == -1) return false;  // singular: the state stays
+    if (resout_lineaire(n, Ar, br, x) == -1) {
+        // singular: the state stays, the run goes on, nothing is shown
+        if (!etat.alertes.systeme_singulier) etat.alertes.date_singulier = date;
+        etat.alertes.systeme_singulier = true;
+        return false;
+    }
 
     for (int i = 0; i < 3; ++i) a.omega[3 + i] = x[i];
     a.zdd = {};

@@ -18,7 +18,8 @@ struct TablesAtmosphere;
 // (position, velocity, ground point) already at `date`. On return the orbit
 // state is at date + dt / 86400 and the result is true, unless the system was
 // singular: then nothing moved (the orbit stays at `date`), the result is
-// false, and the caller simply tries the next step. `tables`: the air density
+// false, the step is noted in etat.alertes (not a fault: the run goes on and
+// nothing is shown), and the caller simply tries the next step. `tables`: the air density
 // tables read when the run was prepared.
 bool attitude_step(Etat& etat, double dt, double date, const TablesAtmosphere& tables);
 

@@ -105,7 +105,7 @@ double bat_v_charge(Etat& etat, double i, double t, double soc) {
         if (!std::isfinite(v)) faute = true;
     }
     if (faute) {
-        etat.pwr.alerte_charge = true;
+        etat.alertes.incompat_charge = true;
         return 0;
     }
     return v;

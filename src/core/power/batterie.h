@@ -18,7 +18,7 @@ PointCourbe point_courbe(const float pts[4][6], int j, double i, double t);
 double bat_cap_current(const PowerRecord& p, double i);  // ratio
 double bat_cap_temp(const PowerRecord& p, double t);     // ratio
 double bat_v_discharge(const PowerRecord& p, double i, double t, double soc);
-// A numeric failure returns 0 and sets etat.pwr.alerte_charge.
+// A numeric failure returns 0 and sets etat.alertes.incompat_charge.
 double bat_v_charge(Etat& etat, double i, double t, double soc);
 
 // Currents in C units. p is the power per accumulator divided by bat_c.

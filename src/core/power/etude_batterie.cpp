@@ -91,7 +91,7 @@ ResultatBatterie etude_batterie(const PowerRecord& lois, const EntreesBatterie& 
                         max_recharge);
         ++t;
     }
-    r.alerte_charge = etat.pwr.alerte_charge;
+    r.alertes = etat.alertes;
     // Seconds of recharge: t has gone one past the last pass.
     r.temps_recharge = std::lrint(static_cast<double>(t) - 1 - e.duree_eclipse * 60);
     r.termine = !r.arrete && !r.faute;

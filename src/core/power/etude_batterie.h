@@ -48,8 +48,8 @@ struct ResultatBatterie {
     long temps_recharge = 0;     // s
     bool termine = false;        // false when stopped, capped or failed
     bool arrete = false;         // the stop flag was seen
-    bool alerte_charge = false;  // the charge curve trapped a numeric failure
     Erreur faute;                // solver fault or recharge cap
+    Alertes alertes;             // what the study went through (the charge curve's trap)
 };
 
 // Accepted range of each input, shared by the window's boxes and the command

@@ -145,7 +145,7 @@ ResultatGenerateur etude_generateur(Etat& etat, const std::function<void(double)
         r.faute.date = s.j_debut;
         return r;
     }
-    etat.faute = {};
+    vide_canal(etat);
     power_state_init(etat);
     const double debut = s.j_debut, fin = s.j_fin;
     const int32_t pas = s.pas_sim;
@@ -155,8 +155,6 @@ ResultatGenerateur etude_generateur(Etat& etat, const std::function<void(double)
         etat.session.pas_sim = pas;
         etat.session.j_courant = j;
         power_step(etat);
-        if (etat.pwr.alerte_charge) r.alerte_charge = true;
-        etat.pwr.alerte_charge = false;
         if (etat.faute || !ligne_power_finie(etat, j, ligne)) return false;
         r.dates.push_back(j);
         r.eclipses.push_back(etat.pwr.eclipse == VRAI);
@@ -170,6 +168,7 @@ ResultatGenerateur etude_generateur(Etat& etat, const std::function<void(double)
         return true;
     });
     r.faute = etat.faute;
+    r.alertes = etat.alertes;
     return r;
 }
 

@@ -35,8 +35,8 @@ struct ResultatGenerateur {
     std::vector<char> eclipses;       // 1 when the row's step is in the shadow
     TableGenerateur temperature, puissance, flux;
     bool arrete = false;              // the stop flag ended the loop
-    bool alerte_charge = false;       // the charge curve trapped a numeric failure
     Erreur faute;                     // date test or a numerical fault of a step
+    Alertes alertes;                  // what the run went through (the charge curve's trap)
 
     const TableGenerateur& table(VueGenerateur v) const;
 };

@@ -152,10 +152,6 @@ struct PowerRecord {
     int32_t t_charge = 0;      // s, running charge time
     int32_t t_discharge = 0;   // s, running discharge time
 
-    // Set when bat_v_charge trapped a numeric failure; the caller shows the
-    // message once and clears it.
-    bool alerte_charge = false;
-
     // Absorptivities already computed, slot by surface (external: 0..7,
     // faces and cylinder: 0..2); reused while the single-precision date and
     // the coating's settings are the same, as the date changes only every few

@@ -25,6 +25,7 @@ void ResumePower::ajoute(const PowerRecord& p, double pas_s) {
 
 BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRecord&)>& chaque) {
     BilanPower b;
+    vide_canal(etat);
     power_state_init(etat);
     etat.pwr.t_charge = 0;
     etat.pwr.t_discharge = 0;
@@ -34,10 +35,6 @@ BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRec
     parcours_dates(etat.session.j_debut, etat.session.j_fin, pas_s, [&](double j) {
         etat.session.j_courant = j;
         power_step(etat);
-        if (etat.pwr.alerte_charge) {
-            b.alerte_charge = true;
-            etat.pwr.alerte_charge = false;
-        }
         if (etat.faute || !ligne_power_finie(etat, j, ligne)) return false;
         derniere = j;
         b.resume.ajoute(etat.pwr, pas_s);

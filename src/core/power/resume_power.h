@@ -24,10 +24,9 @@ struct ResumePower {
 
 struct BilanPower {
     ResumePower resume;
-    bool alerte_charge = false;  // the load could not be met at some step
 };
 
-// power_state_init, then one power_step per date of the session's period,
+// The channel emptied, power_state_init, then one power_step per date of the session's period,
 // its row checked (ligne_power_finie), then `chaque(date, record)`; stops at
 // the first fault (etat.faute) or when `chaque` returns false. The summary's
 // figures are checked finite at the end of a run that went through.

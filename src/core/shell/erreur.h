@@ -46,6 +46,19 @@ struct Erreur {
     explicit operator bool() const { return code != CodeErreur::aucune; }
 };
 
+// What a run meets and goes on through; the windows and the command line say
+// it the same way (rapporte_run), the run does not stop.
+struct Alertes {
+    // bat_v_charge trapped a numeric failure and gave 0 V: the charge laws do
+    // not fit each other ("Incompatibilité entre les paramètres de charge des
+    // batteries !!").
+    bool incompat_charge = false;
+    // An attitude step met a singular system and left the state as it was;
+    // the next step tries again. Never shown: kept for whoever asks.
+    bool systeme_singulier = false;
+    double date_singulier = 0.0;  // days, the first such step
+};
+
 // Records a fault of a run in `faute` unless one is already there: the first
 // fault is the cause, later ones its consequences. False when it was recorded
 // (so a check can end with `return signale_faute(...)`), as when it was not.

@@ -22,6 +22,7 @@
 #include "core/etat.h"
 #include "core/shell/messages.h"
 #include "shell/dialogues.h"
+#include "shell/rapport_run.h"
 #include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "shell/saisie.h"
@@ -170,7 +171,7 @@ void att_sim::att_run() {
     temp_calcul_->setVisible(false);
     fichier_temp_ = QString::fromStdString(b.fichier);
     // a fault ends the run; the records already written stay and are drawn
-    if (etat_.faute) dialogues_.message(this, QString::fromStdString(texte_erreur(etat_.faute)), Icone::critique);
+    rapporte_run(dialogues_, this, etat_.faute, etat_.alertes);
 
     pages_ = pas_ > 0 ? pages_resultats(debut_, fin_, pas_) : 1;
     page_ = 0;

@@ -5,9 +5,9 @@
 #include <QLineEdit>
 
 #include "core/etat.h"
-#include "core/shell/messages.h"
 #include "power/graphes_batterie.h"
 #include "shell/dialogues.h"
+#include "shell/rapport_run.h"
 #include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "shell/saisie.h"
@@ -142,8 +142,7 @@ void power_exp_bat::cmd_saisir_Click() {
         ui_->lab_status->setText(r.arrete ? QStringLiteral("Interrompu") : QStringLiteral("Erreur"));
     }
     pict_graphs_->montre(std::move(r.echantillons), ui_->scroll_graphs->viewport()->size());
-    if (r.alerte_charge) dialogues_.message(this, QString::fromUtf8(msg::incompat_charge), Icone::critique);
-    if (r.faute) dialogues_.message(this, QString::fromStdString(texte_erreur(r.faute)), Icone::avertissement);
+    rapporte_run(dialogues_, this, r.faute, r.alertes);
 }
 
 void power_exp_bat::closeEvent(QCloseEvent* evt) {

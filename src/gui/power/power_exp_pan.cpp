@@ -17,6 +17,7 @@
 #include "power/images_faces.h"
 #include "power/modele_textes.h"
 #include "shell/dialogues.h"
+#include "shell/rapport_run.h"
 #include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "ui_power_exp_pan.h"
@@ -173,8 +174,7 @@ void power_exp_pan::cmd_saisir_Click() {
     }
     montre_faces();
     affiche();
-    if (r_.alerte_charge) dialogues_.message(this, QString::fromUtf8(msg::incompat_charge), Icone::critique);
-    if (r_.faute) dialogues_.message(this, u(texte_erreur(r_.faute)), Icone::avertissement);
+    rapporte_run(dialogues_, this, r_.faute, r_.alertes);
 }
 
 void power_exp_pan::cmd_save_Click() {

@@ -18,6 +18,7 @@
 #include "power/images_sim.h"
 #include "power/pict_visu3d.h"
 #include "shell/dialogues.h"
+#include "shell/rapport_run.h"
 #include "shell/periode_run.h"
 #include "shell/menu.h"
 #include "ui_power_sim_all.h"
@@ -161,18 +162,15 @@ void power_sim_all::Timer_sim_pwr_Timer() {
 }
 
 void power_sim_all::signale_fautes() {
-    if (etat_.pwr.alerte_charge) {
-        etat_.pwr.alerte_charge = false;
-        dialogues_.message(this, QString::fromUtf8(msg::incompat_charge), Icone::critique);
-    }
     LignePower ligne;
-    if (etat_.faute || !ligne_power_finie(etat_, etat_.session.j_courant, ligne)) {
-        // Paused, not stopped: a stop would reset and step again into the same fault.
-        sim_.sim_state = SIM_PAUSE;
-        const std::string texte = texte_erreur(etat_.faute);
-        etat_.faute = {};
-        dialogues_.message(this, u(texte), Icone::critique);
-    }
+    if (!etat_.faute) ligne_power_finie(etat_, etat_.session.j_courant, ligne);
+    // Paused, not stopped: a stop would reset and step again into the same fault.
+    if (etat_.faute) sim_.sim_state = SIM_PAUSE;
+    // each is shown once: the channel is emptied before the boxes open
+    const Erreur faute = etat_.faute;
+    const Alertes alertes = etat_.alertes;
+    vide_canal(etat_);
+    rapporte_run(dialogues_, this, faute, alertes);
 }
 
 void power_sim_all::affiche() {

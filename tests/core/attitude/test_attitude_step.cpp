@@ -4,7 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <cmath>
+#include <filesystem>
+#include <string>
 #include <tuple>
 #include <utility>
 
@@ -185,6 +189,30 @@ TEST(Singulier, PasSansEffet) {
     double date_orbite = std::nan("");
     pas_run(e, 10.0, j, date_orbite, tables());
     EXPECT_EQ(date_orbite, j);
+    // noted with the date of the first such step, never as a fault
+    EXPECT_TRUE(e.alertes.systeme_singulier);
+    EXPECT_EQ(e.alertes.date_singulier, j);
+    EXPECT_FALSE(e.faute);
+    attitude_step(e, 10.0, j + 1, tables());
+    EXPECT_EQ(e.alertes.date_singulier, j);
+}
+
+TEST(Singulier, LeRunContinueSansMessage) {
+    // a whole run on a singular body: every step is skipped, every record
+    // written, the run ends with no fault (|w| = 0.374 rad/s: 1.87 rad a 5 s step)
+    Etat e = corps_libre({0.1, 0.2, 0.3});
+    e.att.I = Mat3{};
+    e.session.j_fin = e.session.j_debut + 17.0 / 86400;
+    e.session.pas_sim = 5;
+    ParametresRun p;
+    p.fichier = (std::filesystem::temp_directory_path() / ("kestrel_singulier_" + std::to_string(getpid()))).string();
+    const BilanRun b = att_run(e, p);
+    std::filesystem::remove(p.fichier);
+    EXPECT_FALSE(e.faute) << texte_erreur(e.faute);
+    // steps at 0, 5, 10 and 15 s, each with its record, and the initial one
+    EXPECT_EQ(std::tuple(b.pas, b.enregistrements), std::tuple(4L, 5L));
+    EXPECT_EQ(std::tuple(e.alertes.systeme_singulier, e.alertes.date_singulier),
+              std::tuple(true, e.session.j_debut));
 }
 
 // The orbit a run step leaves is the orbit at the next date to the bit, the

@@ -74,7 +74,7 @@ TEST(BatteryCurves, ChargeValuesJoinsTheFlatTopOfTheCubicAndTheTrappedFailures) 
     const auto courbe = [&](double soc) { return bat_v_charge(e, 1, T25, soc); };
     for (double xj : {0.15, 0.65}) pentes(courbe, xj, 0.02);
     EXPECT_NEAR((courbe(1.2 + 1e-6) - courbe(1.2 - 1e-6)) / 2e-6, 0.0, 1e-4);  // flat at x3
-    EXPECT_FALSE(e.pwr.alerte_charge);
+    EXPECT_FALSE(e.alertes.incompat_charge);
     // Failures are trapped and reported.
     Etat f, g;
     // Points 1 and 2 at the same capacity: the straight part has no slope.
@@ -83,10 +83,10 @@ TEST(BatteryCurves, ChargeValuesJoinsTheFlatTopOfTheCubicAndTheTrappedFailures) 
         f.pwr.ch_pt[j][2] = 0;
     }
     EXPECT_EQ(bat_v_charge(f, 1, T25, 0.3), 0.0);
-    EXPECT_TRUE(f.pwr.alerte_charge);
+    EXPECT_TRUE(f.alertes.incompat_charge);
     // A zero current (log of 0) is the same failure.
     EXPECT_EQ(bat_v_charge(g, 0, T25, 0.3), 0.0);
-    EXPECT_TRUE(g.pwr.alerte_charge);
+    EXPECT_TRUE(g.alertes.incompat_charge);
 }
 
 TEST(BatterySolvers, PowerAndVoltageSolversFindTheKnownCrossing) {
