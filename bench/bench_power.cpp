@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "core/etat.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/shell/parcours.h"
 #include "memoire.h"
 

@@ -18,8 +18,8 @@
 #include <ctime>
 
 #include "core/etat.h"
-#include "core/power/power.h"
-#include "core/project/projet.h"
+#include "core/power/power_step.h"
+#include "core/project/energie.h"
 #include "power/pict_visu3d.h"
 #include "power/power_sim_all.h"
 #include "shell/dialogues.h"

@@ -10,7 +10,7 @@
 #include "cli/options_power.h"
 #include "cli/sortie.h"
 #include "core/power/ligne_power.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/power/resume_power.h"
 #include "core/shell/messages.h"
 

@@ -7,8 +7,9 @@
 
 #include "cli/commun.h"
 #include "cli/sortie.h"
+#include "core/project/energie.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/project/liste_champs.h"
-#include "core/project/projet.h"
 
 namespace kestrel::cli {
 

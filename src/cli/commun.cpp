@@ -8,7 +8,8 @@
 
 #include <fmt/format.h>
 
-#include "core/project/projet.h"
+#include "core/project/energie.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/project/tle.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/messages.h"

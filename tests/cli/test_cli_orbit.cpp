@@ -9,7 +9,7 @@
 #include "cli/outils_cli.h"
 
 #include "core/etat.h"
-#include "core/project/projet.h"
+#include "core/project/fichiers_binaires.h"
 
 using namespace kestrel::test;
 

@@ -7,7 +7,7 @@
 
 #include "attitude/att_conf.h"
 #include "core/etat.h"
-#include "core/project/projet.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/shell/messages.h"
 #include "faux_dialogues.h"
 #include "shell/menu.h"

@@ -6,7 +6,8 @@
 #include <memory>
 
 #include "core/etat.h"
-#include "core/project/projet.h"
+#include "core/project/energie.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/shell/messages.h"
 #include "faux_dialogues.h"
 #include "shell/frm_first.h"

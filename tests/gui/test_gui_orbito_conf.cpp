@@ -5,9 +5,8 @@
 #include <QtWidgets>
 #include <memory>
 
-#include "core/etat.h"
-#include "core/project/projet.h"
 #include "banc_orbito_conf.h"
+#include "core/etat.h"
 #include "shell/traduction.h"
 
 using kestrel::Etat;

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "core/etat.h"
-#include "core/project/projet.h"
+#include "core/project/energie.h"
 #include "faux_dialogues.h"
 #include "project/power_conf.h"
 #include "shell/menu.h"

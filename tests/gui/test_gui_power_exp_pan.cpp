@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "core/etat.h"
-#include "core/project/projet.h"
+#include "core/project/energie.h"
 #include "core/shell/messages.h"
 #include "faux_dialogues.h"
 #include "power/image_dessin.h"

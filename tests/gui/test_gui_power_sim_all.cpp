@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "core/etat.h"
-#include "core/power/power.h"
-#include "core/project/projet.h"
+#include "core/power/power_step.h"
+#include "core/project/energie.h"
 #include "core/shell/messages.h"
 #include "faux_dialogues.h"
 #include "power/pict_visu3d.h"

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "core/attitude/attitude_init.h"
-#include "core/attitude/couples.h"
+#include "core/attitude/total_torque.h"
 #include "core/etat.h"
 #include "core/math/lineaire.h"
 #include "core/math/math.h"

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "core/attitude/atmosphere.h"
-#include "core/attitude/couples.h"
+#include "core/attitude/couple_aero.h"
 #include "core/attitude/faces.h"
 #include "core/etat.h"
 #include "core/orbit/matrices.h"

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "core/attitude/couples.h"
+#include "core/attitude/couple_gravite.h"
 #include "core/etat.h"
 #include "core/orbit/matrices.h"
 

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "core/attitude/champ_igrf.h"
-#include "core/attitude/couples.h"
+#include "core/attitude/couple_magnetique.h"
 #include "core/etat.h"
 #include "core/math/math.h"
 #include "core/orbit/matrices.h"

@@ -1,4 +1,8 @@
-#include "core/attitude/couples.h"
+#include "core/attitude/couple_aero.h"
+#include "core/attitude/couple_gravite.h"
+#include "core/attitude/couple_magnetique.h"
+#include "core/attitude/couple_solaire.h"
+#include "core/attitude/total_torque.h"
 #include "core/etat.h"
 
 namespace kestrel {

@@ -1,8 +1,8 @@
 // Ageing of the absorptivity of a coating since date_cell.
 #include <cmath>
 
+#include "core/power/alpha.h"
 #include "core/power/power_record.h"
-#include "core/power/thermique.h"
 
 namespace kestrel {
 

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "core/etat.h"
-#include "core/power/batterie.h"
+#include "core/power/bat_curves.h"
 
 namespace kestrel {
 

@@ -3,7 +3,8 @@
 #include <cmath>
 
 #include "core/etat.h"
-#include "core/power/batterie.h"
+#include "core/power/bat_curves.h"
+#include "core/power/bat_solveurs.h"
 
 namespace kestrel {
 

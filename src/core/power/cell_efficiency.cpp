@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "core/etat.h"
-#include "core/power/cellules.h"
+#include "core/power/cell_efficiency.h"
 
 namespace kestrel {
 

@@ -5,8 +5,8 @@
 #include <fmt/format.h>
 
 #include "core/etat.h"
-#include "core/power/batterie.h"
-#include "core/power/cellules.h"
+#include "core/power/bat_curves.h"
+#include "core/power/cell_efficiency.h"
 
 namespace kestrel {
 

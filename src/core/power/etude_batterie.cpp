@@ -7,7 +7,8 @@
 #include <fmt/format.h>
 
 #include "core/etat.h"
-#include "core/power/batterie.h"
+#include "core/power/bat_curves.h"
+#include "core/power/bat_solveurs.h"
 
 namespace kestrel {
 

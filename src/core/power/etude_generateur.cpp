@@ -9,7 +9,7 @@
 #include "core/etat.h"
 #include "core/power/flux.h"
 #include "core/power/ligne_power.h"
-#include "core/power/panneau.h"
+#include "core/power/panel_target.h"
 #include "core/shell/parcours.h"
 
 namespace kestrel {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/shell/erreur.h"
 
 namespace kestrel {

@@ -4,7 +4,8 @@
 #include <cmath>
 
 #include "core/etat.h"
-#include "core/power/panneau.h"
+#include "core/power/panel_drive.h"
+#include "core/power/panel_target.h"
 
 namespace kestrel {
 

@@ -3,7 +3,7 @@
 
 #include "core/etat.h"
 #include "core/power/flux.h"
-#include "core/power/panneau.h"
+#include "core/power/panel_target.h"
 
 namespace kestrel {
 

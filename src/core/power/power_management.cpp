@@ -5,8 +5,9 @@
 #include <cstdint>
 
 #include "core/etat.h"
-#include "core/power/batterie.h"
-#include "core/power/gestion.h"
+#include "core/power/bat_curves.h"
+#include "core/power/bat_solveurs.h"
+#include "core/power/power_management.h"
 
 namespace kestrel {
 

@@ -4,13 +4,16 @@
 #include <cmath>
 
 #include "core/etat.h"
-#include "core/power/batterie.h"
-#include "core/power/cellules.h"
+#include "core/power/bat_curves.h"
 #include "core/power/environnement.h"
-#include "core/power/gestion.h"
-#include "core/power/panneau.h"
-#include "core/power/power.h"
-#include "core/power/thermique.h"
+#include "core/power/generateurs.h"
+#include "core/power/panel_drive.h"
+#include "core/power/panel_target.h"
+#include "core/power/power_management.h"
+#include "core/power/power_step.h"
+#include "core/power/thermal_cylinder.h"
+#include "core/power/thermal_ext_panels.h"
+#include "core/power/thermal_faces.h"
 
 namespace kestrel {
 

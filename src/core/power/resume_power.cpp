@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/power/ligne_power.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/shell/ligne_finie.h"
 #include "core/shell/parcours.h"
 #include "core/shell/types.h"

@@ -2,7 +2,7 @@
 
 #include "core/etat.h"
 #include "core/power/environnement.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 
 namespace kestrel {
 

@@ -4,7 +4,9 @@
 #include <cmath>
 
 #include "core/etat.h"
+#include "core/power/alpha.h"
 #include "core/power/flux.h"
+#include "core/power/thermal_faces.h"
 #include "core/power/thermique.h"
 
 namespace kestrel {

@@ -1,6 +1,6 @@
 #include <filesystem>
 
-#include "core/project/projet.h"
+#include "core/project/chemins.h"
 
 namespace kestrel {
 

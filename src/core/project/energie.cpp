@@ -5,10 +5,11 @@
 #include <iterator>
 
 #include "core/etat.h"
+#include "core/project/chemins.h"
 #include "core/project/encodage.h"
+#include "core/project/energie.h"
 #include "core/project/lecture_ligne.h"
 #include "core/project/lignes_energie.h"
-#include "core/project/projet.h"
 #include "core/shell/nombre_fichier.h"
 
 namespace kestrel {

@@ -10,8 +10,9 @@
 
 #include "core/attitude/bilan_masses.h"
 #include "core/etat.h"
+#include "core/project/chemins.h"
 #include "core/project/enregistrements.h"
-#include "core/project/projet.h"
+#include "core/project/fichiers_binaires.h"
 
 namespace kestrel {
 

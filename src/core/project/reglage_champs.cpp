@@ -8,11 +8,11 @@
 #include <fmt/format.h>
 
 #include "core/attitude/saisie_attitude.h"
-#include "core/project/saisie_orbite.h"
+#include "core/project/energie.h"
 #include "core/project/enregistrements.h"
-#include "core/project/liste_champs.h"
 #include "core/project/lignes_energie.h"
-#include "core/project/projet.h"
+#include "core/project/liste_champs.h"
+#include "core/project/saisie_orbite.h"
 #include "core/shell/types.h"
 
 namespace kestrel {

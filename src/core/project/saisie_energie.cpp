@@ -7,7 +7,7 @@
 
 #include <fmt/format.h>
 
-#include "core/project/projet.h"
+#include "core/project/energie.h"
 #include "core/shell/format_image.h"
 
 namespace kestrel {

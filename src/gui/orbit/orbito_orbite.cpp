@@ -10,8 +10,9 @@
 
 #include "core/etat.h"
 #include "core/orbit/elements_orbite.h"
+#include "core/project/chemins.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/project/saisie_orbite.h"
-#include "core/project/projet.h"
 #include "core/project/tle.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/format_image.h"

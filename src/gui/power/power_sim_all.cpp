@@ -13,7 +13,7 @@
 #include "core/power/affichage_sim.h"
 #include "core/power/geometrie_vue.h"
 #include "core/power/ligne_power.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/shell/messages.h"
 #include "power/images_sim.h"
 #include "power/pict_visu3d.h"

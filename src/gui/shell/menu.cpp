@@ -20,7 +20,8 @@
 #include <array>
 
 #include "core/etat.h"
-#include "core/project/projet.h"
+#include "core/project/energie.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/dossiers.h"
 #include "core/shell/messages.h"

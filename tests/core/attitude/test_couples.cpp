@@ -9,7 +9,11 @@
 
 #include "core/attitude/atmosphere.h"
 #include "core/attitude/champ_igrf.h"
-#include "core/attitude/couples.h"
+#include "core/attitude/couple_aero.h"
+#include "core/attitude/couple_gravite.h"
+#include "core/attitude/couple_magnetique.h"
+#include "core/attitude/couple_solaire.h"
+#include "core/attitude/total_torque.h"
 #include "core/etat.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"

@@ -5,7 +5,8 @@
 #include <cmath>
 #include <functional>
 
-#include "core/power/batterie.h"
+#include "core/power/bat_curves.h"
+#include "core/power/bat_solveurs.h"
 #include "outils_power.h"
 
 namespace kestrel {

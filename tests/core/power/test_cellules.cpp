@@ -1,7 +1,8 @@
 // Cell efficiency on the bus voltage, and the generators' areas and sums.
 #include <gtest/gtest.h>
 
-#include "core/power/cellules.h"
+#include "core/power/cell_efficiency.h"
+#include "core/power/generateurs.h"
 #include "outils_power.h"
 
 namespace kestrel {

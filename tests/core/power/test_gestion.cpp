@@ -1,8 +1,8 @@
 // The three cases of power management, their edges and the heat balance.
 #include <gtest/gtest.h>
 
-#include "core/power/batterie.h"
-#include "core/power/gestion.h"
+#include "core/power/bat_curves.h"
+#include "core/power/power_management.h"
 #include "outils_power.h"
 
 namespace kestrel {

@@ -2,7 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "core/power/flux.h"
-#include "core/power/panneau.h"
+#include "core/power/panel_drive.h"
+#include "core/power/panel_target.h"
 #include "outils_power.h"
 
 namespace kestrel {

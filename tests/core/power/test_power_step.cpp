@@ -7,7 +7,7 @@
 
 #include "core/power/environnement.h"
 #include "core/power/ligne_power.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/shell/parcours.h"
 #include "outils_power.h"
 

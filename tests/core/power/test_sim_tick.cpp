@@ -5,9 +5,9 @@
 #include <tuple>
 
 #include "core/etat.h"
-#include "core/power/power.h"
+#include "core/power/power_step.h"
 #include "core/power/sim_tick.h"
-#include "core/project/projet.h"
+#include "core/project/energie.h"
 
 namespace {
 

@@ -4,6 +4,10 @@
 
 #include <cmath>
 
+#include "core/power/alpha.h"
+#include "core/power/thermal_cylinder.h"
+#include "core/power/thermal_ext_panels.h"
+#include "core/power/thermal_faces.h"
 #include "core/power/thermique.h"
 #include "outils_power.h"
 

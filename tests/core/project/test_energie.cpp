@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/etat.h"
+#include "core/project/energie.h"
 #include "core/project/liste_champs.h"
-#include "core/project/projet.h"
 #include "outils_fichiers.h"
 
 using namespace kestrel;

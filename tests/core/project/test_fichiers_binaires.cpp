@@ -7,8 +7,9 @@
 #include <cstring>
 
 #include "core/etat.h"
+#include "core/project/chemins.h"
+#include "core/project/fichiers_binaires.h"
 #include "core/project/liste_champs.h"
-#include "core/project/projet.h"
 #include "outils_fichiers.h"
 
 using namespace kestrel;

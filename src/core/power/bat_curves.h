@@ -1,6 +1,6 @@
 // One accumulator: voltage (V) against current in C units (multiples of
-// bat_c), temperature (°C) and state of charge (0..1), the capacity factors,
-// and the secant solvers for the inverse problems.
+// bat_c), temperature (°C) and state of charge (0..1), and the capacity
+// factors. The inverse problems are in bat_solveurs.h.
 #pragma once
 
 namespace kestrel {
@@ -20,11 +20,5 @@ double bat_cap_temp(const PowerRecord& p, double t);     // ratio
 double bat_v_discharge(const PowerRecord& p, double i, double t, double soc);
 // A numeric failure returns 0 and sets etat.alertes.incompat_charge.
 double bat_v_charge(Etat& etat, double i, double t, double soc);
-
-// Currents in C units. p is the power per accumulator divided by bat_c.
-// A loop past 100000 passes records a non-convergence fault and returns.
-double bat_i_from_v_charge(Etat& etat, double soc, double v, double i0, double t);
-double bat_i_from_p_charge(Etat& etat, double soc, double p, double i0, double t);
-double bat_i_from_p_discharge(Etat& etat, double soc, double p, double i0, double t);
 
 }  // namespace kestrel
