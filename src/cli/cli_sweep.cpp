@@ -11,7 +11,6 @@
 
 #include "cli/options_power.h"
 #include "cli/sortie.h"
-#include "core/attitude/att_run.h"
 #include "core/attitude/resume_attitude.h"
 #include "core/power/resume_power.h"
 #include "core/project/balayage.h"
@@ -126,9 +125,10 @@ int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBal
 }
 
 // ",steps" and the names of the summary's figures, in their order.
-std::string colonnes_power() {
+template <std::size_t N>
+std::string colonnes(const char* const (&figures)[N]) {
     std::string c = ",steps";
-    for (const char* n : FIGURES_POWER) (c += ',') += n;
+    for (const char* n : figures) (c += ',') += n;
     return c;
 }
 
@@ -137,7 +137,7 @@ int lance_balayage_power(const OptionsPower& op, const OptionsBalayage& o) {
     if (int r = prepare_power(op, base); r != SORTIE_OK) return r;
     return lance_balayage(
         base, op.communes.out, o,
-        colonnes_power().c_str(),
+        colonnes(FIGURES_POWER).c_str(),
         [](Etat& etat) {
             // a swept period or cells' date may break the ageing rule
             if (!(etat.session.j_debut > etat.pwr.date_cell)) {
@@ -155,15 +155,10 @@ int lance_balayage_attitude(const OptionsCommunes& oc, const OptionsBalayage& o)
     Etat base;
     if (int r = prepare_etat(oc, base)) return r;
     if (!oc.step && oc.pwr.empty()) base.session.pas_sim = 10;  // as kestrel attitude
-    return lance_balayage(base, oc.out, o, ",steps,max_rate,roll,pitch,yaw", [](Etat& etat) {
-        ResumeAttitude r;
-        ParametresRun p;
-        p.pas_ecriture = 32767;
-        p.fichier = "/dev/null";  // the figures only, no results file
-        p.apres_pas = [&r](const Etat& e) { r.ajoute(e); };
-        att_run(etat, p);
+    return lance_balayage(base, oc.out, o, colonnes(FIGURES_ATTITUDE).c_str(), [](Etat& etat) {
+        const ResumeAttitude r = run_resume_attitude(etat);
         std::string l = "," + std::to_string(r.pas);
-        for (double x : {r.vitesse_max, r.roulis, r.tangage, r.lacet}) (l += ',') += nombre(x);
+        for (double x : figures(r)) (l += ',') += nombre(x);
         return l;
     });
 }

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "cli/outils_cli.h"
 
@@ -206,4 +208,24 @@ TEST(CliBords, PowerArreteeAvantUneLigneNonFinie) {
     EXPECT_TRUE(lit_fichier(csv).empty());
     lance("power --out " + csv.string() + " --pwr " + masse.string());
     EXPECT_EQ(lignes(lit_fichier(csv)).size(), 1u);
+}
+
+TEST(CliBords, AvertissementDeChargeSansArret) {
+    // lines 208-209 and 216-217: charge-curve points 1 and 2 at the same
+    // capacity (50 %) and voltage offset (0): the straight part between them
+    // has no slope, the curve traps the failure and the run goes on
+    std::string t = lit_fichier(projet_neuf() / "n.pwr");
+    std::vector<std::string> l = decoupe(t, '\n');
+    for (auto [n, texte] : {std::pair{208, " 50 \r"}, {209, " 50 \r"}, {216, " 0 \r"}, {217, " 0 \r"}})
+        l[static_cast<std::size_t>(n - 1)] = texte;
+    t.clear();
+    for (const std::string& x : l) t += x + '\n';
+    const fs::path p = dossier_test() / "charge.pwr";
+    std::ofstream(p, std::ios::binary) << t;
+    const Resultat r = lance("power --summary --pwr " + p.string());
+    EXPECT_EQ(r.code, 0) << r.err;
+    // said once, in the window's words, after the run
+    EXPECT_EQ(r.err, "kestrel: Incompatibilité entre les paramètres de charge des batteries !!\n");
+    // the new project's period, one orbit of 5760 s and a little more, every 120 s: 49 dates
+    EXPECT_NE(r.out.find("Simulation du sous-système d'énergie : 49 pas de 120 s"), std::string::npos) << r.out;
 }

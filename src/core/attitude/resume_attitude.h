@@ -1,6 +1,8 @@
 // Figures that sum up an attitude run, for parameter sweeps: the largest body
 // rate met and the attitude the run ended in.
 #pragma once
+#include <array>
+
 #include "core/etat.h"
 
 namespace kestrel {
@@ -13,5 +15,14 @@ struct ResumeAttitude {
     // After each clean step of the run.
     void ajoute(const Etat& etat);
 };
+
+// The figures in the order of their names.
+inline constexpr const char* FIGURES_ATTITUDE[4] = {"max_rate", "roll", "pitch", "yaw"};
+std::array<double, 4> figures(const ResumeAttitude& r);
+
+// An attitude run over the session's period for its figures alone (no
+// results file kept); the figures are checked finite at the end of a run that
+// went through, like every row. Faults in etat.faute.
+ResumeAttitude run_resume_attitude(Etat& etat);
 
 }  // namespace kestrel

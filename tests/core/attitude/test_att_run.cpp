@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "core/attitude/att_run.h"
+#include "core/attitude/resume_attitude.h"
 #include "core/etat.h"
 
 namespace kestrel {
@@ -206,6 +207,25 @@ TEST(AttRun, TeteNonFinieRienNEstEcrit) {
     EXPECT_EQ(b.enregistrements, 0);
     EXPECT_EQ(b.pas, 0);
     EXPECT_TRUE(lit().lignes.empty());
+}
+
+
+TEST(AttRun, FiguresDuBalayage) {
+    // the period of etat_run: 95 s at 10 s, 10 steps. A spin of 0.1 rad/s about
+    // the principal axis x stays as it is to within the small torques:
+    // 0.1 x 180 / pi = 5.7296 deg/s
+    Etat e = etat_run();
+    e.att.omega_init = {0.1, 0, 0, 0, 0, 0};
+    ResumeAttitude r = run_resume_attitude(e);
+    EXPECT_FALSE(e.faute) << texte_erreur(e.faute);
+    EXPECT_EQ(r.pas, 10);
+    EXPECT_NEAR(r.vitesse_max, 5.7296, 0.01);
+    // the jets of ArretAvantUnPasDePlusDeDeuxRadians: one clean step, then the fault
+    e = etat_run();
+    e.att.jets = {-0.015 * e.att.I(0, 0), 0, 0};
+    r = run_resume_attitude(e);
+    EXPECT_EQ(e.faute.code, CodeErreur::rotation_trop_rapide);
+    EXPECT_EQ(r.pas, 1);
 }
 
 }  // namespace
