@@ -3,12 +3,14 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <type_traits>
 
 #include <fmt/format.h>
 
 #include "core/attitude/saisie_attitude.h"
 #include "core/project/energie.h"
+#include "core/project/saisie_energie.h"
 #include "core/project/enregistrements.h"
 #include "core/project/lignes_energie.h"
 #include "core/project/liste_champs.h"
@@ -26,11 +28,17 @@ struct Reglage {
     bool ecrit;  // false: check only
     bool trouve = false;
     std::string refus;
+    const PowerRecord* pwr = nullptr;  // the power record walked, to place its fields
+    std::optional<std::size_t> decalage;  // bytes into *pwr of the field found there
+
 
     template <class T>
     void champ(T& x, const std::string& n) {
         if (trouve || n != nom) return;
         trouve = true;
+        const auto* a = reinterpret_cast<const unsigned char*>(&x);
+        const auto* b = reinterpret_cast<const unsigned char*>(pwr);
+        if (pwr && a >= b && a < b + sizeof(PowerRecord)) decalage = static_cast<std::size_t>(a - b);
         if constexpr (std::is_integral_v<T>) {
             if (v != std::trunc(v)) {
                 refus = fmt::format("{} attend un nombre entier", nom);
@@ -120,9 +128,17 @@ std::string verifie_limites(const Etat& etat, const std::string& nom, double v) 
     return {};
 }
 
+// The power settings box behind a field found by the walk, if it has one.
+std::optional<CaseEnergie> case_du_champ_energie(const Reglage& r) {
+    return r.decalage ? case_energie(*r.decalage) : std::nullopt;
+}
+
+// A value as a user types it: the shortest text that reads back the same.
+std::string texte_saisi(double v) { return fmt::format("{}", v); }
+
 template <class E>
 Reglage parcourt(E& etat, const std::string& nom, double valeur, bool ecrit) {
-    Reglage r{nom, valeur, ecrit, false, {}};
+    Reglage r{nom, valeur, ecrit, false, {}, &etat.pwr, {}};
     lignes_energie(r, etat.pwr, etat.session);
     if (!r.trouve) champs_attitude(r, etat.att);
     if (!r.trouve) champs_orbite(r, etat.orbite);
@@ -145,6 +161,12 @@ std::string verifie_champ(const Etat& etat, const std::string& nom, double valeu
     const Reglage r = parcourt(etat, nom, valeur, false);
     if (!r.trouve) return fmt::format("champ inconnu « {} »", nom);
     if (!r.refus.empty()) return r.refus;
+    if (const auto c = case_du_champ_energie(r)) {
+        // the box's own check, on a copy: limits, including those that follow another field
+        PowerRecord essai = etat.pwr;
+        const Verdict v = saisie_energie(essai, c->nom, c->k, texte_saisi(valeur));
+        if (!v.ok) return fmt::format("{} = {} : {}", nom, valeur, v.message);
+    }
     return verifie_limites(etat, nom, valeur);
 }
 
@@ -155,6 +177,12 @@ void regle_champ(Etat& etat, const std::string& nom, double valeur) {
     }
     if (const std::size_t i = case_orbite_du_champ(nom); i < nb_cases_orbite) {
         saisit_orbite(etat.orbite, i, valeur);
+        return;
+    }
+    const Reglage r = parcourt(etat, nom, valeur, false);
+    if (const auto c = case_du_champ_energie(r)) {
+        // stored as typed in its box, so totals and linked fields follow
+        saisie_energie(etat.pwr, c->nom, c->k, texte_saisi(valeur));
         return;
     }
     parcourt(etat, nom, valeur, true);

@@ -227,6 +227,23 @@ std::optional<Bornes> bornes_energie(const PowerRecord& p, std::string_view cham
     return b;
 }
 
+std::optional<CaseEnergie> case_energie(std::size_t decalage) {
+    PowerRecord q;
+    const auto* base = reinterpret_cast<const unsigned char*>(&q);
+    for (const Entree& e : entrees) {
+        // no group a box indexes is longer than 36; a smaller k comes first,
+        // so a box of one element answers with k = 0
+        for (int k = 0; k < 36; ++k) {
+            const Cible c = e.cible(q, k);
+            const void* a = c.f ? static_cast<const void*>(c.f)
+                                : c.i ? static_cast<const void*>(c.i) : static_cast<const void*>(c.o);
+            if (static_cast<std::size_t>(reinterpret_cast<const unsigned char*>(a) - base) == decalage)
+                return CaseEnergie{e.nom, k};
+        }
+    }
+    return std::nullopt;
+}
+
 bool champ_entier(std::string_view champ) {
     const Entree* e = trouve(champ);
     if (!e) return false;

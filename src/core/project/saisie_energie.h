@@ -22,6 +22,15 @@ struct Bornes {
 // Limits of a box for the record as it stands, or nothing for an unknown box.
 std::optional<Bornes> bornes_energie(const PowerRecord& p, std::string_view champ, int k = 0);
 
+// The box (and its element k) that edits the record field lying `decalage`
+// bytes into a PowerRecord, if one does: how a field named in a project
+// listing finds its box, its limits and its repairs.
+struct CaseEnergie {
+    std::string_view nom;
+    int k = 0;
+};
+std::optional<CaseEnergie> case_energie(std::size_t decalage);
+
 // True when the box takes whole numbers only.
 bool champ_entier(std::string_view champ);
 

@@ -66,3 +66,37 @@ TEST(ReglageChamps, BoxStepsFollow) {
     regle_champ(e, "OM_init(1)", 0.5);
     EXPECT_NEAR(e.att.OM_init[1], 0.5, 1e-12);
 }
+
+// A power field with a settings box is checked and stored as if typed in it:
+// the box's limits, those that follow another field, and its repairs.
+TEST(ReglageChamps, PowerFieldsGoThroughTheirBox) {
+    Etat e;
+    e.pwr.inc_max = 75;
+    e.pwr.ext_alpha_lim[2] = 0.5f;
+    struct Cas { const char* nom; double v; bool accepte; };
+    const Cas cas[] = {
+        {"bat_c", -5, false},            // capacity box: not below 0
+        {"bat_c", 0, true},
+        {"cel_np", 150, false},          // strings in parallel: 0 to 100
+        {"cel_np", 100, true},
+        {"inc_div", 80, false},          // the derating angle stays under inc_max = 75
+        {"inc_div", 75, true},
+        {"ext_alpha0(2)", 0.6, false},   // a face's initial absorptivity under its limit 0.5
+        {"ext_alpha0(2)", 0.5, true},
+        {"ext_t99(3)", -1, false},       // face box (element k + 2): a time, not below 0
+    };
+    for (const Cas& c : cas) {
+        const std::string r = verifie_champ(e, c.nom, c.v);
+        EXPECT_EQ(r.empty(), c.accepte) << c.nom << " = " << c.v << " : " << r;
+        if (!c.accepte) {
+            EXPECT_EQ(r.rfind(c.nom, 0), 0u) << r;  // the message names the field
+        }
+    }
+    // Isc typed under Imp is raised to Imp + 0.02, as the box does: 0.5 + 0.02.
+    e.pwr.cel_imp = 0.5f;
+    regle_champ(e, "cel_isc", 0.4);
+    EXPECT_FLOAT_EQ(e.pwr.cel_isc, 0.52f);
+    // a field of one element lands where the listing reads it
+    regle_champ(e, "ext_t99(3)", 1234);
+    EXPECT_EQ(e.pwr.ext_t99[3], 1234);
+}
