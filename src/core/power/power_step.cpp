@@ -14,8 +14,24 @@
 #include "core/power/thermal_cylinder.h"
 #include "core/power/thermal_ext_panels.h"
 #include "core/power/thermal_faces.h"
+#include "core/power/thermique.h"
 
 namespace kestrel {
+
+namespace {
+
+constexpr double K = 273.15;
+
+// The first `parois` side walls (at most the layout's room), top, bottom and
+// the internal node from the project's initial temperatures.
+void noeuds_initiaux(PowerRecord& p, const PlanNoeuds& plan, int parois) {
+    for (int i = 0; i < parois && i < plan.parois; ++i) p.node_t[i] = p.fac_t_init[0] + K;
+    p.node_t[plan.haut] = p.fac_t_init[1] + K;
+    p.node_t[plan.bas] = p.fac_t_init[2] + K;
+    p.node_t[plan.interne] = p.int_t_init + K;
+}
+
+}  // namespace
 
 ConfigPower configuration(const PowerRecord& p) {
     if (p.opt_panel_ext == VRAI) return ConfigPower::panneaux_externes;
@@ -29,26 +45,21 @@ void power_state_init(Etat& etat) {
     p.bat_i = p.bat_c * 1e-6;
     p.bat_v = bat_v_charge(etat, p.bat_i / p.bat_c, p.int_t_init, p.bat_soc);
 
-    constexpr double K = 273.15;
     switch (configuration(p)) {
         case ConfigPower::panneaux_externes:
             p.pan_moving = FAUX;
             p.pan_wait = -1;
             p.pan_angle = p.pan_angle_init * DEG_RAD;
-            p.node_t[0] = p.ext_t_init[0] + K;  // node 1 has no temperature
-            for (int i = 2; i <= 8; ++i) p.node_t[i] = p.ext_t_init[i] + K;
+            // ext_t_init follows the node layout; node 1 has no temperature.
+            p.node_t[NOEUDS_PANNEAUX.panneau] = p.ext_t_init[NOEUDS_PANNEAUX.panneau] + K;
+            for (int i = NOEUDS_PANNEAUX.premiere_face; i < NOEUDS_PANNEAUX.nombre; ++i)
+                p.node_t[i] = p.ext_t_init[i] + K;
             break;
         case ConfigPower::cylindre:
-            for (int i = 0; i < 36; ++i) p.node_t[i] = p.fac_t_init[0] + K;
-            p.node_t[36] = p.fac_t_init[1] + K;
-            p.node_t[37] = p.fac_t_init[2] + K;
-            p.node_t[38] = p.int_t_init + K;
+            noeuds_initiaux(p, NOEUDS_CYLINDRE, NOEUDS_CYLINDRE.parois);
             break;
         case ConfigPower::faces:
-            for (int i = 0; i < p.nb_faces && i < 8; ++i) p.node_t[i] = p.fac_t_init[0] + K;
-            p.node_t[8] = p.fac_t_init[1] + K;
-            p.node_t[9] = p.fac_t_init[2] + K;
-            p.node_t[10] = p.int_t_init + K;
+            noeuds_initiaux(p, NOEUDS_FACES, p.nb_faces);
             break;
     }
 }

@@ -28,17 +28,18 @@ void thermal_cylinder(Etat& etat) {
 
     // The fluxes depend only on the step's directions, not on the
     // temperatures: the same in every pass, so computed once.
+    constexpr PlanNoeuds N = NOEUDS_CYLINDRE;
     const VueTerre vue = vue_terre(etat);
-    std::array<double, 38> absorbe{};
+    std::array<double, N.interne> absorbe{};  // every node but the internal one
     incidences_bandes(p);
-    for (int i = 0; i < 36; ++i) {
+    for (int i = 0; i < N.parois; ++i) {
         const FluxSurface f = flux_surface_bande(p, vue, i);
         absorbe[i] = al[0] * f.sa + p.fac_eps[0] * f.ir;
     }
     const FluxSurface haut = flux_surface(etat, vue, normale(DEMI_PI, 0));
     const FluxSurface bas = flux_surface(etat, vue, normale(-DEMI_PI, 0));
-    absorbe[36] = al[1] * haut.sa + p.fac_eps[1] * haut.ir;
-    absorbe[37] = al[2] * bas.sa + p.fac_eps[2] * bas.ir;
+    absorbe[N.haut] = al[1] * haut.sa + p.fac_eps[1] * haut.ir;
+    absorbe[N.bas] = al[2] * bas.sa + p.fac_eps[2] * bas.ir;
 
     const double emis0 = p.fac_eps[0] * SIGMA;
     const double cond0 = p.fac_cond[0], ray0 = SIGMA * p.fac_rad[0];
@@ -59,22 +60,22 @@ void thermal_cylinder(Etat& etat) {
     int k = 1;
     const int n = passes_cylindre(etat.session.pas_sim, k);
     // Temperatures worked on a local copy, written back after the loop.
-    std::array<double, 39> T = p.node_t;
-    std::array<double, 39> T4{}, d{};
-    std::array<double, 36> conduction{}, rayonnement{};  // W/m², strip to internal node
+    std::array<double, N.nombre> T = p.node_t;
+    std::array<double, N.nombre> T4{}, d{};
+    std::array<double, N.parois> conduction{}, rayonnement{};  // W/m², strip to internal node
     for (int pas = 0; pas < n; ++pas) {
-        for (int i = 0; i < 39; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
-        const double Ti_ = T[38], T4i = T4[38];
+        for (int i = 0; i < N.nombre; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
+        const double Ti_ = T[N.interne], T4i = T4[N.interne];
 
         // Exchanges with the internal node first, then its serial sum in
         // strip order, then the strips' own derivatives: these are
         // independent of the sum, so the processor runs both at once.
-        for (int i = 0; i < 36; ++i) {
+        for (int i = 0; i < N.parois; ++i) {
             conduction[i] = (Ti_ - T[i]) * cond0;
             rayonnement[i] = ray0 * (T4i - T4[i]);
         }
         double interne = chaleur;
-        for (int i = 0; i < 36; ++i) {
+        for (int i = 0; i < N.parois; ++i) {
             interne -= conduction[i] * bande;
             interne -= rayonnement[i] * bande;
         }
@@ -83,23 +84,24 @@ void thermal_cylinder(Etat& etat) {
             di -= (2 * T[i] - T[g] - T[dr]) * cyl_cond / bande;
             d[i] = di / cap0 * k;
         };
-        bande_i(0, 35, 1);
-        for (int i = 1; i < 35; ++i) bande_i(i, i - 1, i + 1);
-        bande_i(35, 34, 0);
+        constexpr int der = N.parois - 1;  // the wall closes on itself
+        bande_i(0, der, 1);
+        for (int i = 1; i < der; ++i) bande_i(i, i - 1, i + 1);
+        bande_i(der, der - 1, 0);
         for (int j = 1; j <= 2; ++j) {
-            const int i = 35 + j;
+            const int i = j == 1 ? N.haut : N.bas;
             const double dj = absorbe[i] - emis[j] * T4[i] + (Ti_ - T[i]) * cond[j] + ray[j] * (T4i - T4[i]);
             d[i] = dj / cap[j] * k;
         }
-        interne -= ((Ti_ - T[37]) * cond[2] + (Ti_ - T[36]) * cond[1]) * disque;
-        interne -= disque_ray1 * (T4i - T4[36]);
-        interne -= disque_ray2 * (T4i - T4[37]);
-        d[38] = interne / cap_int * k;
+        interne -= ((Ti_ - T[N.bas]) * cond[2] + (Ti_ - T[N.haut]) * cond[1]) * disque;
+        interne -= disque_ray1 * (T4i - T4[N.haut]);
+        interne -= disque_ray2 * (T4i - T4[N.bas]);
+        d[N.interne] = interne / cap_int * k;
 
-        for (int i = 0; i < 39; ++i) T[i] += d[i];
+        for (int i = 0; i < N.nombre; ++i) T[i] += d[i];
     }
     p.node_t = T;
-    p.t_bat = T[38] - 273.15;
+    p.t_bat = T[N.interne] - 273.15;
 }
 
 }  // namespace kestrel

@@ -29,9 +29,11 @@ void thermal_ext_panels(Etat& etat) {
         emis[i] = p.ext_eps[i] * SIGMA;
     }
     const double perte_elec = p.pan_power[0] / p.ext_area;  // W/m²
+    constexpr PlanNoeudsPanneaux N = NOEUDS_PANNEAUX;
+    constexpr int fin_faces = N.premiere_face + N.nb_faces;
     const double cap0 = static_cast<double>(p.ext_mass[0]) * p.ext_cp[0];
-    std::array<double, 9> cap{};
-    for (int i = 2; i < 9; ++i) cap[i] = static_cast<double>(p.ext_cp[i]) * p.ext_mass[i];
+    std::array<double, N.nombre> cap{};
+    for (int i = N.premiere_face; i < N.nombre; ++i) cap[i] = static_cast<double>(p.ext_cp[i]) * p.ext_mass[i];
     std::array<double, 6> cond{}, ray{};
     for (int k = 0; k < 6; ++k) {
         cond[k] = p.ext_cond[k];
@@ -40,32 +42,35 @@ void thermal_ext_panels(Etat& etat) {
     const double aire = p.body_face_area, chaleur = p.p_heat;
 
     // Temperatures worked on a local copy, written back after the loop.
-    std::array<double, 9> T = {};
-    T[0] = p.node_t[0];
-    for (int i = 2; i < 9; ++i) T[i] = p.node_t[i];
+    std::array<double, N.nombre> T = {};
+    T[N.panneau] = p.node_t[N.panneau];
+    for (int i = N.premiere_face; i < N.nombre; ++i) T[i] = p.node_t[i];
     for (int pas = 0; pas < etat.session.pas_sim; ++pas) {
-        std::array<double, 9> T4{}, d{};
-        for (int i = 0; i < 9; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
+        std::array<double, N.nombre> T4{}, d{};
+        for (int i = 0; i < N.nombre; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
 
-        d[0] = (absorbe[0] - emis[0] * T4[0]) + (absorbe[1] - emis[1] * T4[0]) - perte_elec;
-        d[0] /= cap0;
+        // Surfaces 0 and 1 are the front and rear of the one panel node.
+        const int q = N.panneau;
+        d[q] = (absorbe[0] - emis[0] * T4[q]) + (absorbe[1] - emis[1] * T4[q]) - perte_elec;
+        d[q] /= cap0;
         double interne = 0;
-        for (int i = 2; i < 8; ++i) {
-            const int k = i - 2;
+        for (int i = N.premiere_face; i < fin_faces; ++i) {
+            const int k = i - N.premiere_face;
             // Face: balance + conduction + radiation, summed left to right;
             // the internal node takes the exchange as one term.
-            const double conduction = (T[8] - T[i]) * cond[k], rayonnement = ray[k] * (T4[8] - T4[i]);
+            const double conduction = (T[N.interne] - T[i]) * cond[k];
+            const double rayonnement = ray[k] * (T4[N.interne] - T4[i]);
             d[i] = (((absorbe[i] - emis[i] * T4[i]) + conduction) + rayonnement) / cap[i];
             interne -= conduction + rayonnement;
         }
-        d[8] = (aire * interne + chaleur) / cap[8];
+        d[N.interne] = (aire * interne + chaleur) / cap[N.interne];
 
-        T[0] += d[0];
-        for (int i = 2; i < 9; ++i) T[i] += d[i];
+        T[N.panneau] += d[N.panneau];
+        for (int i = N.premiere_face; i < N.nombre; ++i) T[i] += d[i];
     }
-    p.node_t[0] = T[0];
-    for (int i = 2; i < 9; ++i) p.node_t[i] = T[i];
-    p.t_bat = T[8] - 273.15;
+    p.node_t[N.panneau] = T[N.panneau];
+    for (int i = N.premiere_face; i < N.nombre; ++i) p.node_t[i] = T[i];
+    p.t_bat = T[N.interne] - 273.15;
 }
 
 }  // namespace kestrel

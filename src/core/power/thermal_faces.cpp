@@ -14,7 +14,8 @@ namespace kestrel {
 void thermal_faces(Etat& etat) {
     PowerRecord& p = etat.pwr;
     const float t = static_cast<float>(etat.session.j_courant);
-    const int n = p.nb_faces < 8 ? p.nb_faces : 8;
+    constexpr PlanNoeuds N = NOEUDS_FACES;
+    const int n = p.nb_faces < N.parois ? p.nb_faces : N.parois;
     const double cote = static_cast<double>(p.body_width) * p.body_height;  // m², one face
     const double l2 = static_cast<double>(p.body_width) * p.body_width;
     const double couvercle = p.opt_faces == 0 ? l2 : (p.nb_faces * l2 / 4) / std::tan(PI / p.nb_faces);  // m²
@@ -22,17 +23,17 @@ void thermal_faces(Etat& etat) {
     std::array<double, 3> al{};
     for (int j = 0; j < 3; ++j) al[j] = alpha_memo(p, j, t, p.fac_alpha0[j], p.fac_alpha_lim[j], p.fac_t99[j]);
 
-    // Absorbed flux per node for the step: faces 0..n-1, top 8, bottom 9.
+    // Absorbed flux per node for the step: faces, top, bottom.
     const VueTerre vue = vue_terre(etat);
-    std::array<double, 10> absorbe{};
+    std::array<double, N.interne> absorbe{};
     for (int i = 0; i < n; ++i) {
         const FluxSurface f = flux_surface(etat, vue, normale(p.face_elev[i], p.face_azim[i]));
         absorbe[i] = al[0] * f.sa + p.fac_eps[0] * f.ir;
     }
     const FluxSurface haut = flux_surface(etat, vue, normale(DEMI_PI, 0));
     const FluxSurface bas = flux_surface(etat, vue, normale(-DEMI_PI, 0));
-    absorbe[8] = al[1] * haut.sa + p.fac_eps[1] * haut.ir;
-    absorbe[9] = al[2] * bas.sa + p.fac_eps[2] * bas.ir;
+    absorbe[N.haut] = al[1] * haut.sa + p.fac_eps[1] * haut.ir;
+    absorbe[N.bas] = al[2] * bas.sa + p.fac_eps[2] * bas.ir;
 
     const double cap0 = static_cast<double>(p.fac_mass[0]) * p.fac_cp[0];
     const double cap_int = static_cast<double>(p.int_cp) * p.int_mass;
@@ -47,34 +48,35 @@ void thermal_faces(Etat& etat) {
     const double ray_couvercle = couvercle * SIGMA;
 
     // Temperatures worked on a local copy, written back after the loop.
-    std::array<double, 11> T{};
-    for (int i = 0; i < 11; ++i) T[i] = p.node_t[i];
-    std::array<double, 11> T4{}, d{};
+    constexpr int I = N.interne;
+    std::array<double, N.nombre> T{};
+    for (int i = 0; i < N.nombre; ++i) T[i] = p.node_t[i];
+    std::array<double, N.nombre> T4{}, d{};
     for (int pas = 0; pas < etat.session.pas_sim; ++pas) {
-        for (int i = 0; i < 11; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
+        for (int i = 0; i < N.nombre; ++i) T4[i] = (T[i] * T[i]) * (T[i] * T[i]);
 
         double interne = 0;
         for (int i = 0; i < n; ++i) {
             // Face: balance + conduction + radiation, summed left to right;
             // the internal node takes the exchange as one term.
-            const double conduction = (T[10] - T[i]) * cond[0], rayonnement = ray[0] * (T4[10] - T4[i]);
+            const double conduction = (T[I] - T[i]) * cond[0], rayonnement = ray[0] * (T4[I] - T4[i]);
             d[i] = (absorbe[i] - emis[0] * T4[i] + conduction + rayonnement) / cap0;
             interne -= conduction + rayonnement;
         }
         for (int j = 1; j <= 2; ++j) {
-            const int i = 7 + j;
-            d[i] = (absorbe[i] - emis[j] * T4[i] + (T[10] - T[i]) * cond[j] + ray[j] * (T4[10] - T4[i])) / cap[j];
+            const int i = j == 1 ? N.haut : N.bas;
+            d[i] = (absorbe[i] - emis[j] * T4[i] + (T[I] - T[i]) * cond[j] + ray[j] * (T4[I] - T4[i])) / cap[j];
         }
         interne *= cote;
-        interne -= ((T[10] - T[9]) * cond[2] + (T[10] - T[8]) * cond[1]) * couvercle;
-        interne -= ray_couvercle * ((T4[10] - T4[9]) * p.fac_rad[2] + (T4[10] - T4[8]) * p.fac_rad[1]);
-        d[10] = (chaleur + interne) / cap_int;
+        interne -= ((T[I] - T[N.bas]) * cond[2] + (T[I] - T[N.haut]) * cond[1]) * couvercle;
+        interne -= ray_couvercle * ((T4[I] - T4[N.bas]) * p.fac_rad[2] + (T4[I] - T4[N.haut]) * p.fac_rad[1]);
+        d[I] = (chaleur + interne) / cap_int;
 
         for (int i = 0; i < n; ++i) T[i] += d[i];
-        for (int i = 8; i < 11; ++i) T[i] += d[i];
+        for (int i = N.haut; i < N.nombre; ++i) T[i] += d[i];
     }
     for (int i = 0; i < n; ++i) p.node_t[i] = T[i];
-    for (int i = 8; i < 11; ++i) p.node_t[i] = T[i];
+    for (int i = N.haut; i < N.nombre; ++i) p.node_t[i] = T[i];
     // In this layout the battery does not follow the internal node.
     p.t_bat = 20.0;
 }

@@ -8,6 +8,7 @@
 #include "core/power/environnement.h"
 #include "core/power/ligne_power.h"
 #include "core/power/power_step.h"
+#include "core/power/thermique.h"
 #include "core/shell/parcours.h"
 #include "outils_power.h"
 
@@ -41,14 +42,15 @@ TEST(PowerStateInit, ResetsOnlyWhatItNames) {
     essai::verifie({{"soc", p.bat_soc, 0.8, 1e-15}, {"i", p.bat_i, 10 * 1e-6, 1e-20}, {"wait", p.pan_wait, -1, 0},
                     {"moving", p.pan_moving, FAUX, 0}, {"angle", p.pan_angle, 30 * DEG_RAD, 1e-15},
                     {"heat", p.p_heat, 7.0, 0}, {"target", p.pan_target, 0.5, 0}, {"T0", p.node_t[0], 298.15, 1e-12},
-                    {"T8", p.node_t[8], 298.15, 1e-12}, {"T1", p.node_t[1], 123.0, 0},
+                    {"T8", p.node_t[NOEUDS_PANNEAUX.interne], 298.15, 1e-12}, {"T1", p.node_t[1], 123.0, 0},
                     {"T20", p.node_t[20], 456.0, 0}});
     essai::pose_faces(p, 2);
     p.fac_t_init = {10, 20, 30};
     p.int_t_init = 40;
     power_state_init(e);
-    essai::verifie({{"T20", p.node_t[20], 283.15, 1e-12}, {"T36", p.node_t[36], 293.15, 1e-12},
-                    {"T37", p.node_t[37], 303.15, 1e-12}, {"T38", p.node_t[38], 313.15, 1e-12}});
+    essai::verifie({{"T20", p.node_t[20], 283.15, 1e-12}, {"top", p.node_t[NOEUDS_CYLINDRE.haut], 293.15, 1e-12},
+                    {"bottom", p.node_t[NOEUDS_CYLINDRE.bas], 303.15, 1e-12},
+                    {"internal", p.node_t[NOEUDS_CYLINDRE.interne], 313.15, 1e-12}});
 }
 
 TEST(PowerStep, ConfigurationTests) {

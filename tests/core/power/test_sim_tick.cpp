@@ -6,6 +6,7 @@
 
 #include "core/etat.h"
 #include "core/power/power_step.h"
+#include "core/power/thermique.h"
 #include "core/power/sim_tick.h"
 #include "core/project/energie.h"
 
@@ -86,7 +87,7 @@ TEST(SimTick, RunningTicksStepOncePerTwentyAndMatchPlainSteps) {
                                     {"bat_p", e.pwr.bat_p, copie.pwr.bat_p},
                                     {"bat_soc", e.pwr.bat_soc, copie.pwr.bat_soc},
                                     {"p_excess", e.pwr.p_excess, copie.pwr.p_excess},
-                                    {"node_t[8]", e.pwr.node_t[8], copie.pwr.node_t[8]},
+                                    {"internal node", e.pwr.node_t[NOEUDS_PANNEAUX.interne], copie.pwr.node_t[NOEUDS_PANNEAUX.interne]},
                                     {"pan_angle", e.pwr.pan_angle, copie.pwr.pan_angle}})
         EXPECT_EQ(a, b) << nom;
 }

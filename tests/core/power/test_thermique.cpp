@@ -82,7 +82,7 @@ TEST(ThermalOrder, TermsSummedAsWritten) {
     p.fac_rad[0] = 0.005f;
     p.fac_mass[0] = p.fac_cp[0] = 1;
     p.node_t.fill(300.0);
-    p.node_t[8] = p.node_t[10] = 310.0;
+    p.node_t[NOEUDS_PANNEAUX.interne] = p.node_t[NOEUDS_FACES.interne] = 310.0;
     Etat f = e;
     thermal_ext_panels(e);
     thermal_faces(f);
@@ -164,7 +164,7 @@ TEST(ThermalCylinder, PassCountsAndDroppedSeconds) {
         p.p_heat = 5000;
         e.session.pas_sim = c[0];
         thermal_cylinder(e);
-        EXPECT_NEAR(p.node_t[38] - T_FROID, c[3], 1e-9) << c[0];
+        EXPECT_NEAR(p.node_t[NOEUDS_CYLINDRE.interne] - T_FROID, c[3], 1e-9) << c[0];
     }
 }
 
@@ -187,15 +187,15 @@ TEST(ThermalExtPanels, OnePassMatchesHandEuler) {
     auto& T = p.node_t;
     T.fill(T_FROID);
     T[0] = 320;
-    T[6] = T_CHAUD;
-    T[8] = T_INT;
+    T[6] = T_CHAUD;  // +z face
+    T[NOEUDS_PANNEAUX.interne] = T_INT;
     T[1] = -1;  // no temperature of its own: left alone
     thermal_ext_panels(e);
     // panel: (0.8*1000 - 0.8 s 320^4 - 0.9 s 320^4 - 50/0.5) / 9000 = -0.0345247
     // top face: (0.3*1000 - 0.6 s 300^4 - 20 - 5.8241673) / 4000 = -0.0003465
     // internal: (0.3 * (20 + 5.8241673) + 30) / 12000 = 0.0031456
     essai::verifie({{"panel", T[0], 319.9654752882, TOL_K}, {"top", T[6], 299.9996534582, TOL_K},
-                    {"internal", T[8], 290.0031456042, 1e-9}, {"t_bat", p.t_bat, 290.0031456042 - 273.15, 1e-9},
+                    {"internal", T[NOEUDS_PANNEAUX.interne], 290.0031456042, 1e-9}, {"t_bat", p.t_bat, 290.0031456042 - 273.15, 1e-9},
                     {"rear", T[1], -1, 0}});
     for (int i : {2, 3, 4, 5, 7}) EXPECT_NEAR(T[i], T_FROID, 1e-10) << i;
     const auto avant = T;
