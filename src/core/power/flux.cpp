@@ -110,12 +110,6 @@ double incidence_earth(const Etat& etat, double a, double b) {
     return incidence(a, b, p.nad_z, p.nad_sxy, p.nad_az);
 }
 
-double cell_cosine(const Etat& etat, double theta) {
-    // The parabola's coefficients cost two sines: built only when needed.
-    if (theta <= etat.pwr.inc_div * DEG_RAD) return std::max(std::cos(theta), 0.0);
-    return cell_cosine(loi_cellule(etat.pwr), theta);
-}
-
 double cell_cosine_derivee(const Etat& etat, double a, double b, double z, double sxy, double az) {
     const LoiCellule q = loi_cellule(etat.pwr);
     const double theta = incidence(a, b, z, sxy, az);
@@ -127,7 +121,12 @@ double cell_cosine_derivee(const Etat& etat, double a, double b, double z, doubl
 }
 
 double cell_flux(const Etat& etat, double a, double b) {
-    return flux_cellule(etat.pwr, normale(a, b), [&etat](double theta) { return cell_cosine(etat, theta); });
+    // The parabola's coefficients cost two sines: built only when needed.
+    const PowerRecord& p = etat.pwr;
+    return flux_cellule(p, normale(a, b), [&p](double theta) {
+        if (theta <= p.inc_div * DEG_RAD) return std::max(std::cos(theta), 0.0);
+        return cell_cosine(loi_cellule(p), theta);
+    });
 }
 
 double solar_flux_direct(const Etat& etat, double a, double b) {
@@ -136,7 +135,7 @@ double solar_flux_direct(const Etat& etat, double a, double b) {
 
 double albedo_flux(Etat& etat, double a, double b) {
     const double deg = incidence_earth(etat, a, b) * 180.0 / PI;
-    return earth_view_factor(etat, deg) * etat.pwr.flux_alb;
+    return facteur_vue(vue_terre(etat), deg) * etat.pwr.flux_alb;
 }
 
 double solar_albedo_flux(Etat& etat, double a, double b) {
@@ -145,7 +144,7 @@ double solar_albedo_flux(Etat& etat, double a, double b) {
 
 double earth_ir_flux(Etat& etat, double a, double b) {
     const double deg = incidence_earth(etat, a, b) * 180.0 / PI;
-    return earth_view_factor(etat, deg) * etat.pwr.flux_ir;
+    return facteur_vue(vue_terre(etat), deg) * etat.pwr.flux_ir;
 }
 
 VueTerre vue_terre(Etat& etat) {
@@ -169,8 +168,6 @@ double facteur_vue(const VueTerre& v, double deg) {
                     L * (0.1091 - 2.833e-06 * deg * deg - 0.000215 * deg));
     return f < 0.001 ? 0.0 : f;
 }
-
-double earth_view_factor(Etat& etat, double deg) { return facteur_vue(vue_terre(etat), deg); }
 
 FluxSurface flux_surface(const Etat& etat, const VueTerre& v, const Normale& n) {
     const PowerRecord& p = etat.pwr;

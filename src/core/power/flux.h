@@ -11,9 +11,6 @@ struct PowerRecord;
 
 double incidence_sun(const Etat& etat, double a, double b);    // rad, 0..pi
 double incidence_earth(const Etat& etat, double a, double b);  // rad, towards the Earth centre
-// Effective cosine of a cell: cosine up to inc_div, then a parabola joining it
-// in value and slope that reaches 0 at inc_max; never negative.
-double cell_cosine(const Etat& etat, double theta);
 // Derivative of the cell cosine with respect to the elevation a, at azimuth b,
 // for a direction (z, sxy, az) of the local frame.
 double cell_cosine_derivee(const Etat& etat, double a, double b, double z, double sxy, double az);
@@ -22,9 +19,6 @@ double solar_flux_direct(const Etat& etat, double a, double b);  // plain cosine
 double albedo_flux(Etat& etat, double a, double b);
 double solar_albedo_flux(Etat& etat, double a, double b);
 double earth_ir_flux(Etat& etat, double a, double b);
-// View factor of the Earth for a normal at `deg` degrees from nadir; 0 below
-// 0.001. Refreshes earth_half from the satellite's distance.
-double earth_view_factor(Etat& etat, double deg);
 
 // The view factor's geometry depends only on the satellite's position: built
 // once per step (refreshing earth_half), then read for every surface.
@@ -33,6 +27,8 @@ struct VueTerre {
     double L;   // natural log of the altitude in km
 };
 VueTerre vue_terre(Etat& etat);
+// View factor of the Earth for a normal at `deg` degrees from nadir; 0 below
+// 0.001.
 double facteur_vue(const VueTerre& v, double deg);
 
 // A surface of normal (a, b) with sin a and cos a taken once; sa is
@@ -48,7 +44,9 @@ struct FluxSurface {
 FluxSurface flux_surface(const Etat& etat, const VueTerre& v, const Normale& n);
 
 // The cell law's parabola from inc_div and inc_max (rad), for a run of
-// surfaces in one step; cell_cosine and cell_flux through it.
+// surfaces in one step; cell_cosine and cell_flux through it. The effective
+// cosine of a cell: cosine up to inc_div, then a parabola joining it in value
+// and slope that reaches 0 at inc_max; never negative.
 struct LoiCellule {
     double d, m, A, B, C;
 };

@@ -12,7 +12,7 @@ namespace {
 using essai::etat_soleil_zenith;
 
 TEST(CellCosine, CosineThenParabolaReachingZeroAtIncMaxWithTheSlopeKeptAtIncDiv) {
-    Etat e;  // inc_div 50 deg, inc_max 75 deg
+    const LoiCellule q = loi_cellule(PowerRecord{});  // inc_div 50 deg, inc_max 75 deg
     // d = 0.872665, m = 1.308997: A = (sin d (m-d) - cos d)/(m-d)^2 = -1.620591,
     // B = -sin d - 2 A d = 2.062421, C = -A m^2 - B m = 0.077137; at 62.5 deg:
     // 0.398528; continuous at d, nothing from m on nor behind the cell (never negative).
@@ -20,10 +20,10 @@ TEST(CellCosine, CosineThenParabolaReachingZeroAtIncMaxWithTheSlopeKeptAtIncDiv)
     const double cas[][3] = {{0, 1, 0}, {40 * DEG_RAD, std::cos(40 * DEG_RAD), 1e-15},
                              {62.5 * DEG_RAD, 0.3985282213, 1e-9}, {75 * DEG_RAD - 1e-9, 0, 1e-8},
                              {80 * DEG_RAD, 0, 0}, {PI, 0, 0}, {d + 1e-12, std::cos(d), 1e-10}};
-    for (const auto& c : cas) EXPECT_NEAR(cell_cosine(e, c[0]), c[1], c[2]) << c[0];
+    for (const auto& c : cas) EXPECT_NEAR(cell_cosine(q, c[0]), c[1], c[2]) << c[0];
     // Slope of the cosine there: -sin d = -0.766044 on both sides.
-    EXPECT_NEAR((cell_cosine(e, d) - cell_cosine(e, d - h)) / h, -std::sin(d), 1e-5);
-    EXPECT_NEAR((cell_cosine(e, d + h) - cell_cosine(e, d)) / h, -std::sin(d), 1e-5);
+    EXPECT_NEAR((cell_cosine(q, d) - cell_cosine(q, d - h)) / h, -std::sin(d), 1e-5);
+    EXPECT_NEAR((cell_cosine(q, d + h) - cell_cosine(q, d)) / h, -std::sin(d), 1e-5);
 }
 
 TEST(Flux, SunOnTheFacesThenTheEclipseThatKeepsTheEarth) {
@@ -64,7 +64,8 @@ TEST(EarthViewFactor, FormulaOnBothSidesOfNinetyAndTheCut) {
     // towards 180 deg: 0.0416934 straight behind.
     const double cas[][2] = {{0, 0.8256243963},   {60, 0.4355412616}, {120, 0.0664021061},
                              {149, 0.0010971026}, {150, 0.0},         {180, 0.0416929840}};
-    for (const auto& c : cas) EXPECT_NEAR(earth_view_factor(e, c[0]), c[1], 1e-9) << c[0];
+    const VueTerre v = vue_terre(e);
+    for (const auto& c : cas) EXPECT_NEAR(facteur_vue(v, c[0]), c[1], 1e-9) << c[0];
     EXPECT_NEAR(e.pwr.earth_half, std::asin(6378.137 / 7000.0), 1e-12);
 }
 
