@@ -1,11 +1,24 @@
 #include "core/shell/format_image.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 
 #include <fmt/format.h>
 
 namespace kestrel {
+
+namespace {
+
+// x with n decimals, fixed or d.ddde±xx, correctly rounded: the exploitation
+// tables format millions of cells, so no format-string parsing per cell.
+std::string decimal_texte(double x, int n, std::chars_format forme) {
+    char t[400];  // 309 integer digits of the largest double, a sign, the decimals
+    const auto r = std::to_chars(t, t + sizeof t, x, forme, std::clamp(n, 0, 60));
+    return std::string(t, r.ptr);
+}
+
+}  // namespace
 
 std::string format_image(double x, std::string_view image) {
     const auto pos_exp = image.find_first_of("Ee");
@@ -19,7 +32,7 @@ std::string format_image(double x, std::string_view image) {
     for (char c : entiers) min_entiers += (c == '0');
 
     if (pos_exp == std::string_view::npos) {
-        std::string s = fmt::format("{:.{}f}", x, decimales);
+        std::string s = decimal_texte(x, decimales, std::chars_format::fixed);
         // "00" shows 5 as 05: pad the integer part to the '0' count.
         const std::size_t debut = (s[0] == '-') ? 1 : 0;
         const std::size_t fin_entiers = std::min(s.find('.'), s.size());
@@ -40,7 +53,7 @@ std::string format_image(double x, std::string_view image) {
     for (char c : image.substr(pos_exp + 1)) chiffres_exp += (c == '0');
 
     // "%.{n}e" gives one digit before the point, as a "0.000E+00" picture wants.
-    std::string s = fmt::format("{:.{}e}", x, decimales);
+    std::string s = decimal_texte(x, decimales, std::chars_format::scientific);
     const auto e = s.find('e');
     const int expo = std::atoi(s.c_str() + e + 1);
     std::string r = s.substr(0, e);
