@@ -68,4 +68,22 @@ inline std::vector<std::string> decoupe(const std::string& texte, char sep) {
 inline std::vector<std::string> lignes(const std::string& texte) { return decoupe(texte, '\n'); }
 inline std::vector<std::string> champs(const std::string& ligne) { return decoupe(ligne, ','); }
 
+// A run's expected exit code and a part of its one-line message.
+struct Attendu {
+    std::string arguments;
+    int code;
+    std::string message;  // a part of stderr
+};
+
+// The run ends with its code and one message on one line, bounded in time: a
+// run that would wait forever is ended after 20 s (exit 124).
+inline void verifie_une_ligne(const Attendu& a) {
+    const Resultat r = lance(std::string("20 \"") + KESTREL_EXE + "\" " + a.arguments, "timeout");
+    EXPECT_EQ(r.code, a.code) << a.arguments << "\n" << r.err;
+    EXPECT_NE(r.err.find(a.message), std::string::npos) << a.arguments << "\n" << r.err;
+    const auto m = r.err.find("kestrel: ");
+    EXPECT_EQ(r.err.find("kestrel: ", m + 1), std::string::npos) << r.err;
+    EXPECT_EQ(r.err.find('\n', m), r.err.size() - 1) << r.err;
+}
+
 }  // namespace kestrel::test

@@ -154,6 +154,13 @@ void TestOrbitoConf::fichier_orb_par_les_dialogues() {
     QTest::mouseClick(b.ctrl<QPushButton>("orb_ouvr"), Qt::LeftButton);
     QCOMPARE(b.etat.orbite.orb_inclinaison, 20.0);
     QVERIFY(b.dlg.messages.isEmpty());
+    // An endless device is refused unread, with its reason in a stop box.
+    b.dlg.chemins = {"/dev/zero"};
+    QTest::mouseClick(b.ctrl<QPushButton>("orb_ouvr"), Qt::LeftButton);
+    QCOMPARE(b.etat.orbite.orb_inclinaison, 20.0);
+    QCOMPARE(b.dlg.messages.size(), 1);
+    QCOMPARE(b.dlg.messages[0].texte, "Lecture refusée : c'est un périphérique, pas un fichier ordinaire");
+    b.dlg.messages.clear();
     b.dlg.chemins = {b.fichier("absent/x.orb")};
     QTest::mouseClick(b.ctrl<QPushButton>("orb_enre"), Qt::LeftButton);
     QCOMPARE(b.dlg.messages.size(), 1);
@@ -202,6 +209,13 @@ void TestOrbitoConf::import_tle() {
              "Erreur de lecture du TLE, ligne 2, colonne 69 : somme de contrôle 8 au lieu de 7");
     QCOMPARE(b.texte("norad_inclinaison"), "98.0000000000");
     QCOMPARE(b.etat.orbite.orb_an, int16_t{2008});
+
+    // A folder is refused unread, named with its reason.
+    b.dlg.chemins = {QDir::tempPath()};
+    b.ctrl<QAction>("orb_tle_fichier")->trigger();
+    QCOMPARE(b.dlg.messages.size(), 2);
+    QCOMPARE(b.dlg.messages[1].texte,
+             "Fichier « " + QDir::tempPath() + " » : Lecture refusée : c'est un dossier, pas un fichier");
 }
 
 void TestOrbitoConf::pointage() {

@@ -2,7 +2,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "core/etat.h"
 #include "core/project/chemins.h"
@@ -10,6 +9,7 @@
 #include "core/project/energie.h"
 #include "core/project/lecture_ligne.h"
 #include "core/project/lignes_energie.h"
+#include "core/shell/lecture_fichier.h"
 #include "core/shell/nombre_fichier.h"
 
 namespace kestrel {
@@ -94,17 +94,18 @@ Erreur sauve_energie(const Etat& etat, const std::string& chemin) {
 }
 
 Erreur charge_energie(Etat& etat, const std::string& chemin) {
-    std::ifstream f(chemin, std::ios::binary);
-    if (!f || !fichier_existe(chemin)) {
-        Erreur e;
+    std::string brut;
+    if (Erreur e = lit_fichier_projet(chemin, brut)) {
+        if (refus_fichier(e)) return e;
         e.code = CodeErreur::lecture_energie;
         e.ligne = 0;  // nothing could be read at all
-        e.detail = chemin;
         return e;
     }
-    std::string brut{std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-    LecteurLignes l(depuis_cp1252(brut));
+    return charge_energie_octets(etat, brut);
+}
 
+Erreur charge_energie_octets(Etat& etat, const std::string& octets) {
+    LecteurLignes l(depuis_cp1252(octets));
     // Read into copies: the caller's project stays whole if a line fails.
     PowerRecord p = etat.pwr;
     Session s = etat.session;

@@ -13,7 +13,11 @@ struct PowerRecord;
 
 // The load reads into a copy and replaces etat's power record, environment
 // and period only when the whole file was read; on failure etat is untouched.
+// A folder, a device, a pipe or a file over 1 MiB is refused unread, with a
+// message of its own.
 Erreur charge_energie(Etat& etat, const std::string& chemin);
+// The same from the file's bytes (the refusals aside).
+Erreur charge_energie_octets(Etat& etat, const std::string& octets);
 // Deletes the previous file first, then writes; a failure leaves what was written.
 Erreur sauve_energie(const Etat& etat, const std::string& chemin);
 // The 279 lines that sauve_energie writes, in UTF-8 with CR LF line ends.

@@ -1,6 +1,7 @@
 // The two binary records: .att (820 bytes) and .orb (114 bytes in 128).
 // Both are read into a scratch copy and handed over only after a good read;
 // a short file reads as zeros past its end.
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cerrno>
@@ -13,6 +14,7 @@
 #include "core/project/chemins.h"
 #include "core/project/enregistrements.h"
 #include "core/project/fichiers_binaires.h"
+#include "core/shell/lecture_fichier.h"
 
 namespace kestrel {
 
@@ -49,14 +51,11 @@ struct Decodeur {
     }
 };
 
-// Reads up to n bytes; the rest stays zero. False when the file cannot be read.
-bool lit_debut(const std::string& chemin, std::vector<unsigned char>& o, std::size_t n) {
-    o.assign(n, 0);
-    if (!fichier_existe(chemin)) return false;
-    std::ifstream f(chemin, std::ios::binary);
-    if (!f) return false;
-    f.read(reinterpret_cast<char*>(o.data()), static_cast<std::streamsize>(n));
-    return !f.bad();
+// The first n bytes of the file's contents; zeros past its end.
+std::vector<unsigned char> debut(const std::string& octets, std::size_t n) {
+    std::vector<unsigned char> o(n, 0);
+    std::memcpy(o.data(), octets.data(), std::min(n, octets.size()));
+    return o;
 }
 
 // Replaces the first bytes of the file (creating it when absent); a longer
@@ -92,16 +91,14 @@ Erreur ecrit_enregistrement(const R& r, Champs champs, std::size_t n, CodeErreur
     return {};
 }
 
-// Read into a copy of r, handed over only when the file could be read.
+// The record decoded from the file's bytes into a copy of r, handed over whole.
 template <class R, class Champs>
-bool lit_enregistrement(R& r, Champs champs, std::size_t n, const std::string& chemin) {
-    std::vector<unsigned char> o;
-    if (!lit_debut(chemin, o, n)) return false;
+void decode_enregistrement(R& r, Champs champs, std::size_t n, const std::string& octets) {
+    const std::vector<unsigned char> o = debut(octets, n);
     R copie = r;
     Decodeur dec{o};
     champs(dec, copie);
     r = copie;
-    return true;
 }
 
 const auto disposition_attitude = [](auto& v, auto& r) { champs_attitude(v, r); };
@@ -115,12 +112,13 @@ Erreur sauve_attitude(const Etat& etat, const std::string& chemin) {
 }
 
 Erreur lit_attitude(AttitudeRecord& a, const std::string& chemin) {
-    if (!lit_enregistrement(a, disposition_attitude, TAILLE_ATTITUDE, chemin)) {
-        Erreur e;
+    std::string octets;
+    if (Erreur e = lit_fichier_projet(chemin, octets)) {
+        if (refus_fichier(e)) return e;
         e.code = CodeErreur::lecture_attitude;
-        e.detail = chemin;
         return e;
     }
+    decode_enregistrement(a, disposition_attitude, TAILLE_ATTITUDE, octets);
     return {};
 }
 
@@ -132,16 +130,27 @@ Erreur charge_attitude(Etat& etat, const std::string& chemin) {
     return e;
 }
 
+void charge_attitude_octets(Etat& etat, const std::string& octets) {
+    decode_enregistrement(etat.att, disposition_attitude, TAILLE_ATTITUDE, octets);
+    faces_recalcul(etat.att);
+}
+
 Erreur sauve_orbite(const Etat& etat, const std::string& chemin) {
     return ecrit_enregistrement(etat.orbite, disposition_orbite, CASE_ORBITE, CodeErreur::fichier_orbite, chemin);
 }
 
+void charge_orbite_octets(Etat& etat, const std::string& octets) {
+    decode_enregistrement(etat.orbite, disposition_orbite, TAILLE_ORBITE, octets);
+}
+
 Erreur charge_orbite(Etat& etat, const std::string& chemin) {
-    errno = 0;
-    if (!lit_enregistrement(etat.orbite, disposition_orbite, TAILLE_ORBITE, chemin)) {
-        if (errno == 0) errno = ENOENT;
+    std::string octets;
+    if (Erreur e = lit_fichier_projet(chemin, octets)) {
+        if (refus_fichier(e)) return e;
+        errno = static_cast<int>(e.valeur);
         return erreur_systeme(CodeErreur::fichier_orbite, chemin);
     }
+    charge_orbite_octets(etat, octets);
     return {};
 }
 

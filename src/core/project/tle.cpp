@@ -1,7 +1,6 @@
 #include "core/project/tle.h"
 
 #include <cstdlib>
-#include <fstream>
 #include <span>
 #include <sstream>
 #include <vector>
@@ -9,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "core/project/saisie_orbite.h"
+#include "core/shell/lecture_fichier.h"
 
 namespace kestrel {
 
@@ -82,6 +82,7 @@ FauteTle verifie_ligne(const std::string& l, int numero) {
 }  // namespace
 
 std::string texte_faute_tle(const FauteTle& f) {
+    if (f.colonne == 0) return fmt::format("Erreur de lecture du TLE : {}", f.raison);  // the file itself
     return fmt::format("Erreur de lecture du TLE, ligne {}, colonne {} : {}", f.ligne, f.colonne, f.raison);
 }
 
@@ -138,11 +139,10 @@ FauteTle lit_tle(const std::string& texte, Orbite& o, std::string& nom) {
 }
 
 FauteTle charge_tle(const std::string& chemin, Orbite& o, std::string& nom) {
-    std::ifstream f(chemin, std::ios::binary);
-    if (!f) return {0, 0, fmt::format("fichier « {} » introuvable ou illisible", chemin)};
-    std::ostringstream t;
-    t << f.rdbuf();
-    return lit_tle(t.str(), o, nom);
+    std::string texte;
+    if (const Erreur e = lit_fichier_projet(chemin, texte))
+        return {0, 0, fmt::format("fichier « {} » : {}", texte_lisible(chemin, 300), texte_erreur(e))};
+    return lit_tle(texte, o, nom);
 }
 
 }  // namespace kestrel

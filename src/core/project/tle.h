@@ -29,7 +29,8 @@ std::string texte_faute_tle(const FauteTle& f);
 // is refused.
 FauteTle lit_tle(const std::string& texte, Orbite& o, std::string& nom);
 
-// The same from a file (.tle, .txt); an unreadable file is a fault of line 0.
+// The same from a file (.tle, .txt); a file that cannot be read, or is not a
+// small plain file, is a fault of line 0, column 0.
 FauteTle charge_tle(const std::string& chemin, Orbite& o, std::string& nom);
 
 }  // namespace kestrel

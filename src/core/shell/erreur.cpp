@@ -7,6 +7,7 @@
 
 #include "core/shell/calendrier.h"
 #include "core/shell/dossiers.h"
+#include "core/shell/lecture_fichier.h"
 #include "core/shell/messages.h"
 #include "core/shell/periode.h"
 
@@ -33,6 +34,9 @@ std::string cause_systeme(int numero) {
         case EPERM: return "permission refusée";
         case ENOENT: return "fichier ou dossier introuvable";
         case EISDIR: return "c'est un dossier";
+        case ENOTDIR: return "un élément du chemin n'est pas un dossier";
+        case ENAMETOOLONG: return "nom de fichier trop long";
+        case ELOOP: return "trop de liens symboliques";
         case EROFS: return "système de fichiers en lecture seule";
         case EPIPE: return "tube fermé par le lecteur";
         default: return fmt::format("erreur d'entrée/sortie (code {})", numero);
@@ -103,6 +107,20 @@ std::string texte_erreur(const Erreur& e) {
                                detail, texte_lisible(liste_dossiers_cherches(), 1000));
         case CodeErreur::ecriture_resultats:
             return fmt::format("Impossible d'écrire le fichier de résultats : {}", detail);
+        case CodeErreur::fichier_dossier:
+            return "Lecture refusée : c'est un dossier, pas un fichier";
+        case CodeErreur::fichier_peripherique:
+            return "Lecture refusée : c'est un périphérique, pas un fichier ordinaire";
+        case CodeErreur::fichier_tube:
+            return "Lecture refusée : c'est un tube nommé (FIFO), pas un fichier ordinaire";
+        case CodeErreur::fichier_special:
+            return "Lecture refusée : ce n'est pas un fichier ordinaire";
+        case CodeErreur::fichier_trop_gros:
+            return fmt::format("Lecture refusée : {} octets, quand un fichier de projet en compte au plus {} "
+                               "(1 Mio)",
+                               nombre_lisible(e.valeur), TAILLE_PROJET_MAX);
+        case CodeErreur::fichier_illisible:
+            return fmt::format("Lecture impossible : {}", cause_systeme(static_cast<int>(e.valeur)));
         case CodeErreur::non_convergence:
             return fmt::format("Calcul interrompu : {} ne converge pas à la date {}", detail,
                                texte_date(e.date));

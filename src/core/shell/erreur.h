@@ -17,6 +17,13 @@ enum class CodeErreur {
     fichier_orbite,         // .orb open/save failure (detail = system description)
     fichier_donnees,        // a data table (flux_solaire.txt, densite.txt) is missing or bad
     ecriture_resultats,     // results file could not be written
+    // a project file refused before reading (detail = path)
+    fichier_dossier,        // a folder
+    fichier_peripherique,   // a device: possibly an endless stream
+    fichier_tube,           // a named pipe: would wait for a writer
+    fichier_special,        // a socket or another non-file
+    fichier_trop_gros,      // valeur = size in bytes, over TAILLE_PROJET_MAX
+    fichier_illisible,      // open or read refused by the system (valeur = errno)
     // numerical faults of a run (date = day count of the step)
     non_convergence,        // an iteration passed its safety cap (detail = solver)
     sous_rayon_ombre,       // satellite inside the 6428 km shadow radius

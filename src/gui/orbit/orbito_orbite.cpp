@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFile>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -16,6 +15,7 @@
 #include "core/project/tle.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/format_image.h"
+#include "core/shell/lecture_fichier.h"
 #include "orbit/orbito_commun.h"
 #include "shell/dialogues.h"
 #include "ui_orbito_orbite.h"
@@ -92,8 +92,13 @@ bool orbito_orbite::orb_ouvr_Click() {
                            QString::fromStdString(etat_.session.dossier_depart), QStringLiteral("*.orb"),
                            QString()};
     const QString chemin = dialogues_.ouvrir(this, d);
-    // A file that cannot be read ends the command as a cancel does.
-    if (chemin.isEmpty() || charge_orbite(etat_, chemin.toStdString())) return false;
+    // A file that cannot be read ends the command as a cancel does; a folder,
+    // a device or a pipe is refused with its reason.
+    if (chemin.isEmpty()) return false;
+    if (const Erreur e = charge_orbite(etat_, chemin.toStdString())) {
+        if (refus_fichier(e)) dialogues_.message(this, QString::fromStdString(texte_erreur(e)), Icone::critique);
+        return false;
+    }
     ui_->orbite_nom->setText(QString::fromStdString(extrait_nom_fichier(chemin.toStdString())));
     affiche(true);
     emit orbite_modifiee();
@@ -123,13 +128,13 @@ bool orbito_orbite::importe_tle_fichier() {
                            QString::fromStdString(etat_.session.dossier_depart), QString(), QString()};
     const QString chemin = dialogues_.ouvrir(this, d);
     if (chemin.isEmpty()) return false;
-    QFile f(chemin);
-    if (!f.open(QIODevice::ReadOnly)) {
-        dialogues_.message(this, QStringLiteral("Fichier « %1 » introuvable ou illisible").arg(chemin),
-                           Icone::critique);
+    std::string texte;
+    if (const Erreur e = lit_fichier_projet(chemin.toStdString(), texte)) {
+        const QString raison = QString::fromStdString(texte_erreur(e));
+        dialogues_.message(this, QStringLiteral("Fichier « %1 » : %2").arg(chemin, raison), Icone::critique);
         return false;
     }
-    return importe_tle(QString::fromUtf8(f.readAll()));
+    return importe_tle(QString::fromStdString(texte));
 }
 
 bool orbito_orbite::importe_tle_presse_papiers() { return importe_tle(QApplication::clipboard()->text()); }

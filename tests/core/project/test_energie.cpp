@@ -174,6 +174,6 @@ TEST(FichierEnergie, EchecsDeLectureNommentLaLigneEtLaissentLEtat) {
     EXPECT_EQ(texte_erreur(charge(d, e, {}, s)),
               "Erreur de lecture du fichier de configuration, ligne 101 : fin du fichier atteinte");
     EXPECT_EQ(charge_energie(e, d / "absent.pwr").ligne, 0);
-    EXPECT_EQ(charge_energie(e, d.chemin.string()).code, CodeErreur::lecture_energie);
+    EXPECT_EQ(charge_energie(e, d.chemin.string()).code, CodeErreur::fichier_dossier);
     EXPECT_EQ(e.pwr.cel_isc, 0.7f);
 }

@@ -120,12 +120,12 @@ TEST(FichierAttitude, FichiersCourtsLongsEtAbsents) {
     ASSERT_FALSE(sauve_attitude(Etat{}, d / "long.att"));
     EXPECT_EQ(lit_octets(d / "long.att"), plein + std::string(1180, '\xab'));
 
-    // Absent file or a folder: the two-line message, the record untouched.
+    // Absent file: the two-line message; a folder: refused as such; the record untouched.
     Etat a;
     a.att.Masse = 77.0;
     EXPECT_EQ(texte_erreur(charge_attitude(a, d / "absent.att")),
               "Erreur de lecture_ligne du fichier de configuration.\nFichier non trouvable ou format non valable !!");
-    EXPECT_EQ(charge_attitude(a, d.chemin.string()).code, CodeErreur::lecture_attitude);
+    EXPECT_EQ(charge_attitude(a, d.chemin.string()).code, CodeErreur::fichier_dossier);
     EXPECT_EQ(a.att.Masse, 77.0);
     EXPECT_EQ(sauve_attitude(a, d / "pas_de_dossier/x.att").code, CodeErreur::ecriture_attitude);
 }
