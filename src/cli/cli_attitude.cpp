@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "cli/arguments.h"
 #include "cli/commun.h"
 #include "core/attitude/att_run.h"
 #include "core/shell/types.h"
@@ -94,7 +95,7 @@ Commande enregistre_attitude(CLI::App& app) {
     c.app->get_option("--out")->description("results file; default: temp/temp.tmp beside the program");
     c.app->add_option("--every", o->every, "write a record every N steps (default 1)")
         ->check(nombres_finis())
-        ->check(CLI::Range(1.0, 32767.0));
+        ->check(entre(1, 32767));
     c.app->add_option("--rates", o->rates, "initial body rates psi,theta,phi in deg/s")
         ->check(nombres_finis())
         ->delimiter(',')

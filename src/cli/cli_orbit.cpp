@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string>
 
+#include "cli/arguments.h"
 #include "cli/commun.h"
 #include "cli/export_orbite.h"
 #include "cli/sortie.h"
@@ -85,7 +86,7 @@ Commande enregistre_orbit(CLI::App& app) {
     c.app->add_option("--format", *format,
                       "csv (default), oem (CCSDS Orbit Ephemeris Message, KVN, inertial frame of 1950) "
                       "or czml (CesiumJS, Earth-fixed positions)")
-        ->check(CLI::IsMember({"csv", "oem", "czml"}));
+        ->check(parmi({"csv", "oem", "czml"}));
     c.lance = [options, format]() -> int {
         Etat etat;
         if (int r = prepare_etat(*options, etat); r != SORTIE_OK) return r;

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "cli/arguments.h"
 #include "cli/commun.h"
 #include "cli/sortie.h"
 #include "core/power/etude_batterie.h"
@@ -123,7 +124,7 @@ Commande enregistre_study(CLI::App& app) {
     bat->add_option("--vmax", b->e.v_max, "maximum charge voltage per accumulator, V")->capture_default_str();
     bat->add_option("--ich", b->e.i_charge, "charge current, C units")->capture_default_str();
     bat->add_option("--mode", b->mode, "discharge at constant power or constant current")
-        ->check(CLI::IsMember({"power", "current"}))
+        ->check(parmi({"power", "current"}))
         ->capture_default_str();
     bat->add_option("--power", b->e.puissance, "discharge power over Cnom, V/h (W per Ah)")->capture_default_str();
     bat->add_option("--current", b->e.i_decharge,
@@ -135,7 +136,7 @@ Commande enregistre_study(CLI::App& app) {
         c.app->add_subcommand("generator", "power_step over the period, per-panel table of one view");
     ajoute_options_communes(gen, g->communes);
     gen->add_option("--view", g->vue, "temperature (°C), power (W) or flux (W/m²)")
-        ->check(CLI::IsMember({"temperature", "power", "flux"}))
+        ->check(parmi({"temperature", "power", "flux"}))
         ->capture_default_str();
 
     c.lance = [b, g, bat, gen] {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <thread>
 
+#include "cli/arguments.h"
 #include "cli/options_power.h"
 #include "cli/sortie.h"
 #include "core/attitude/resume_attitude.h"
@@ -168,7 +169,7 @@ void ajoute_options_balayage(CLI::App* sub, OptionsBalayage& o) {
                     "FIELD=v1,v2,... or FIELD=start:stop:count; field names as `kestrel project show` "
                     "prints them; repeat for a product of several fields")
         ->required();
-    sub->add_option("--jobs", o.jobs, "threads (default: all cores)")->check(CLI::Range(1u, 1024u));
+    sub->add_option("--jobs", o.jobs, "threads (default: all cores)")->check(entre(1, 1024));
     sub->add_option("--cases", o.cas, "K:N: only the K-th of N equal slices of the cases (header in slice 1)");
     sub->add_flag("--quiet", o.quiet, "no progress line");
 }

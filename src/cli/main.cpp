@@ -3,6 +3,7 @@
 #include <iostream>
 #include <vector>
 
+#include "cli/arguments.h"
 #include "cli/commun.h"
 
 int main(int argc, char** argv) {
@@ -18,6 +19,7 @@ int main(int argc, char** argv) {
                                     enregistre_power(app), enregistre_attitude(app),
                                     enregistre_study(app), enregistre_exploit(app),
                                     enregistre_sweep(app)};
+    refuse_non_finis(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp& e) {
@@ -27,9 +29,7 @@ int main(int argc, char** argv) {
     } catch (const CLI::CallForVersion& e) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
-        std::string m = e.what();
-        if (m.empty()) m = "bad arguments";
-        return signale(m + " (kestrel --help)", SORTIE_ARGUMENTS);
+        return signale(message_arguments(e) + " (voir " + aide(app) + ")", SORTIE_ARGUMENTS);
     }
     for (auto& c : commandes) {
         if (c.app->parsed()) return c.lance();

@@ -148,12 +148,12 @@ TEST(CliBords, DisquePleinSignalePourChaqueSousCommande) {
 TEST(CliBords, NombresNonFinisRefusesALaLecture) {
     const std::string fini = " : un nombre fini est attendu";
     for (const Cas& c : std::initializer_list<Cas>{
-             {"power --spin nan", 2, "--spin: « nan »" + fini},
-             {"power --pointing nan,0,0", 2, "--pointing: « nan »" + fini},
-             {"attitude --rates 1,inf,0", 2, "--rates: « inf »" + fini},
-             {"orbit --step -inf", 2, "--step: « -inf »" + fini},
+             {"power --spin nan", 2, "--spin : « nan »" + fini},
+             {"power --pointing nan,0,0", 2, "--pointing : « nan »" + fini},
+             {"attitude --rates 1,inf,0", 2, "--rates : « inf »" + fini},
+             {"orbit --step -inf", 2, "--step : « -inf »" + fini},
              // a control character in an argument is shown escaped, on the same line
-             {"power --spin \"$(printf '1\\033')\"", 2, "--spin: « 1\\x1b »" + fini},
+             {"power --spin \"$(printf '1\\033')\"", 2, "--spin : « 1\\x1b »" + fini},
          })
         verifie(c);
 }
