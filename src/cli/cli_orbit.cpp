@@ -26,13 +26,6 @@ std::string entete() {
     return l;
 }
 
-void ecrit_ligne(Sortie& out, const LigneOrbite& v) {
-    std::string l = nombre(v[0]);
-    for (std::size_t i = 1; i < v.size(); ++i) (l += ',') += nombre(v[i]);
-    l += '\n';
-    out << l;
-}
-
 // Name of the orbit record, or the program's for an unnamed orbit.
 std::string nom_objet(const Orbite& o) {
     std::string n(o.nom.begin(), o.nom.end());
@@ -99,7 +92,7 @@ Commande enregistre_orbit(CLI::App& app) {
             etat.session.j_courant = j;
             orbite_a_date(etat, j);
             if (etat.faute || !ligne_orbite_finie(etat.faute, j, etat.orb, v)) return false;
-            ecrit_ligne(out, v);
+            out.ligne(v);
             return out.ok();
         });
         if (etat.faute) {

@@ -27,14 +27,7 @@ void ecrit_entete(Sortie& out) {
 void ecrit_ligne(Sortie& out, double date, const PowerRecord& p) {
     LignePower v;
     ligne_power(date, p, v);
-    std::string l;
-    l.reserve(3000);
-    for (std::size_t i = 0; i < COLONNES_POWER; ++i) {
-        if (i) l += ',';
-        l += nombre(v[i]);
-    }
-    l += '\n';
-    out << l;
+    out.ligne(v);
 }
 
 void ecrit_resume(Sortie& out, const ResumePower& r, const Etat& etat) {

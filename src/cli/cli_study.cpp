@@ -46,10 +46,11 @@ int lance_batterie(OptionsBatterie o) {
     out << fmt::format("DOD %,{}\n", r.dod);
     out << "Temps de recharge," << texte_duree(r.temps_recharge) << "\n";
     out << "t,phase,s,v,i\n";
-    std::string l;
     for (const EchantillonBatterie& x : r.echantillons) {
-        l = fmt::format("{},{},{},{},{}\n", x.t, static_cast<char>(x.phase), nombre(x.s), nombre(x.v), nombre(x.i));
-        out << l;
+        out.entier(x.t) << ',' << static_cast<char>(x.phase) << ',';
+        out.nombre(x.s) << ',';
+        out.nombre(x.v) << ',';
+        out.nombre(x.i) << '\n';
     }
     if (rapporte_run(r.faute, r.alertes) != SORTIE_OK) return termine(out, SORTIE_ECHEC);
     return termine(out, SORTIE_OK);
@@ -89,16 +90,13 @@ int lance_generateur(const OptionsGenerateur& o) {
     out << "date (j),eclipse";
     for (std::size_t c = 0; c < t.colonnes(); ++c) out << fmt::format(",{} ({})", t.titres[c], t.unites[c]);
     out << '\n';
-    std::string l;
     for (std::size_t i = 0; i < t.lignes(); ++i) {
-        l = nombre(r.dates[i]);
-        l += r.eclipses[i] ? ",1" : ",0";
+        out.nombre(r.dates[i]) << (r.eclipses[i] ? ",1" : ",0");
         for (std::size_t c = 0; c < t.colonnes(); ++c) {
-            l += ',';
-            if (const double x = t.valeur(i, c); !std::isnan(x)) l += nombre(x);
+            out << ',';
+            if (const double x = t.valeur(i, c); !std::isnan(x)) out.nombre(x);
         }
-        l += '\n';
-        out << l;
+        out << '\n';
     }
     ecrit_resume(r, t);
     if (rapporte_run(r.faute, r.alertes) != SORTIE_OK) return termine(out, SORTIE_ECHEC);

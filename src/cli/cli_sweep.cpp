@@ -77,7 +77,7 @@ using Figures = std::function<std::string(Etat&)>;
 std::string ligne_du_cas(std::size_t i, const std::vector<double>& valeurs, const std::string& figures,
                          std::size_t nb_figures, const Erreur& faute) {
     std::string l = std::to_string(i + 1);
-    for (double v : valeurs) (l += ',') += nombre(v);
+    for (double v : valeurs) (l += ',') += texte_nombre(v);
     if (!faute) return l + figures + ",\n";
     l += std::string(nb_figures, ',');
     std::string t = texte_erreur(faute);
@@ -147,7 +147,7 @@ int lance_balayage_power(const OptionsPower& op, const OptionsBalayage& o) {
             }
             const ResumePower r = run_power(etat).resume;
             std::string l = "," + std::to_string(r.pas);
-            for (double x : figures(r)) (l += ',') += nombre(x);
+            for (double x : figures(r)) (l += ',') += texte_nombre(x);
             return l;
         });
 }
@@ -159,7 +159,7 @@ int lance_balayage_attitude(const OptionsCommunes& oc, const OptionsBalayage& o)
     return lance_balayage(base, oc.out, o, colonnes(FIGURES_ATTITUDE).c_str(), [](Etat& etat) {
         const ResumeAttitude r = run_resume_attitude(etat);
         std::string l = "," + std::to_string(r.pas);
-        for (double x : figures(r)) (l += ',') += nombre(x);
+        for (double x : figures(r)) (l += ',') += texte_nombre(x);
         return l;
     });
 }

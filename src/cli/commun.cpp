@@ -162,8 +162,6 @@ int signale(const std::string& message, int code) {
     return code;
 }
 
-std::string nombre(double x) { return fmt::format("{:.17g}", x); }
-
 int rapporte_run(const Erreur& faute, const Alertes& alertes) {
     if (alertes.incompat_charge) signale(msg::incompat_charge, SORTIE_OK);
     return faute ? signale(texte_erreur(faute), SORTIE_ECHEC) : SORTIE_OK;

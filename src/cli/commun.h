@@ -1,5 +1,5 @@
 // What the sub-commands share: the project and period options, building the
-// Etat from them, dates on the command line, and the CSV number form.
+// Etat from them, and dates on the command line.
 #pragma once
 #include <CLI/CLI.hpp>
 
@@ -56,9 +56,6 @@ int prepare_etat(const OptionsCommunes& o, Etat& etat, bool periode = true);
 
 // "12345.5" (day count) or "2001-03-21T13:12:00"; empty when unreadable.
 std::optional<double> lit_date(const std::string& texte);
-
-// Number with 17 significant digits (reads back to the same double).
-std::string nombre(double x);
 
 // "kestrel: message" on stderr, control characters shown as \xNN (the line
 // breaks of the program's own texts kept). Returns code.
