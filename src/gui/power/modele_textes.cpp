@@ -76,8 +76,8 @@ QVariant ModeleTextes::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ModeleTextes::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) return {};
-    if (orientation == Qt::Vertical) return section + 1;
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+    if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     return section < entetes_.size() ? entetes_[section] : QVariant();
 }
 
