@@ -71,7 +71,6 @@ void TestPowerSimAll::demarrage_refuse_a_la_date_des_cellules() {
     Banc b;
     b.ticks(1);
     QCOMPARE(b.fen->windowTitle(), QStringLiteral("Simulation du sous-système complet"));
-    QCOMPARE(b.ctrl("cmd_stop")->toolTip(), QStringLiteral("Arrêt et initialisation simulation à la date de départ"));
     b.etat.session.j_debut = b.etat.pwr.date_cell;  // equal: the test is strict
     b.clique("cmd_lance");
     QCOMPARE(b.fen->sim_state(), kestrel::SIM_ARRET);

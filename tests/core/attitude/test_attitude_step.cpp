@@ -17,19 +17,10 @@
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
 #include "core/etat.h"
+#include "tables_essai.h"
 
 namespace kestrel {
 namespace {
-
-// The tables delivered beside the binaries, read once for the whole program.
-const TablesAtmosphere& tables() {
-    static const TablesAtmosphere t = [] {
-        TablesAtmosphere r;
-        EXPECT_FALSE(charge_tables_atmosphere(KESTREL_BIN_DIR, r));
-        return r;
-    }();
-    return t;
-}
 
 using testing::DoubleNear;
 using testing::Pointwise;

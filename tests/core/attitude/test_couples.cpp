@@ -18,6 +18,7 @@
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"
+#include "tables_essai.h"
 
 namespace kestrel {
 namespace {
@@ -27,15 +28,6 @@ using testing::Pointwise;
 
 constexpr double DATE = 18000.25;
 
-// The tables delivered beside the binaries, read once for the whole program.
-const TablesAtmosphere& tables() {
-    static const TablesAtmosphere t = [] {
-        TablesAtmosphere r;
-        EXPECT_FALSE(charge_tables_atmosphere(KESTREL_BIN_DIR, r));
-        return r;
-    }();
-    return t;
-}
 const Vec3 ZERO{};
 
 Etat etat_test() {
