@@ -1,0 +1,18 @@
+// An orbit (.orb) from the fuzzer's bytes: the record, the listing, the
+// default period it sets (its epoch to one orbital period later), then a
+// short run.
+#include "core/etat.h"
+#include "core/project/liste_champs.h"
+#include "core/project/fichiers_binaires.h"
+#include "court.h"
+
+using namespace kestrel;
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* d, std::size_t n) {
+    Etat e;
+    charge_orbite_octets(e, fuzz::octets(d, n));
+    champs_orbite(e.orbite);
+    periode_par_defaut(e);
+    fuzz::court_run(e);
+    return 0;
+}
