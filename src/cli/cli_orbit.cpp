@@ -19,10 +19,14 @@ namespace kestrel::cli {
 
 namespace {
 
-// The column names, comma-separated.
-std::string entete() {
-    std::string l = COLONNES_ORBITE[0];
-    for (std::size_t i = 1; i < std::size(COLONNES_ORBITE); ++i) (l += ',') += COLONNES_ORBITE[i];
+// The column names, comma-separated, each with its unit in brackets if asked.
+std::string entete(bool unites = false) {
+    std::string l;
+    for (std::size_t i = 0; i < std::size(COLONNES_ORBITE); ++i) {
+        if (i) l += ',';
+        l += COLONNES_ORBITE[i];
+        if (unites) ((l += " [") += UNITES_ORBITE[i]) += ']';
+    }
     return l;
 }
 
@@ -80,13 +84,15 @@ Commande enregistre_orbit(CLI::App& app) {
                       "csv (default), oem (CCSDS Orbit Ephemeris Message, KVN, inertial frame of 1950) "
                       "or czml (CesiumJS, Earth-fixed positions)")
         ->check(parmi({"csv", "oem", "czml"}));
-    c.lance = [options, format]() -> int {
+    auto unites = std::make_shared<bool>(false);
+    c.app->add_flag("--units", *unites, "each column's unit in brackets in the CSV header (sat_x [km])");
+    c.lance = [options, format, unites]() -> int {
         Etat etat;
         if (int r = prepare_etat(*options, etat); r != SORTIE_OK) return r;
         Sortie out(options->out);
         if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
         if (*format != "csv") return exporte(etat, *format, out);
-        out << entete() << '\n';
+        out << entete(*unites) << '\n';
         LigneOrbite v;
         parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
             etat.session.j_courant = j;

@@ -18,9 +18,13 @@ namespace kestrel::cli {
 
 namespace {
 
-void ecrit_entete(Sortie& out) {
-    std::string l = nom_colonne_power(0);
-    for (std::size_t i = 1; i < COLONNES_POWER; ++i) (l += ',') += nom_colonne_power(i);
+void ecrit_entete(Sortie& out, bool unites) {
+    std::string l;
+    for (std::size_t i = 0; i < COLONNES_POWER; ++i) {
+        if (i) l += ',';
+        l += nom_colonne_power(i);
+        if (unites) ((l += " [") += unite_colonne_power(i)) += ']';
+    }
     out << l << "\n";
 }
 
@@ -47,7 +51,7 @@ int lance_power(const OptionsPower& o) {
     Sortie out(o.communes.out);
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
 
-    if (!o.resume) ecrit_entete(out);
+    if (!o.resume) ecrit_entete(out, o.unites);
     const BilanPower bilan = run_power(etat, [&](double j, const PowerRecord& p) {
         if (!o.resume) ecrit_ligne(out, j, p);
         return out.ok();  // a failed write stops the run
@@ -98,6 +102,7 @@ Commande enregistre_power(CLI::App& app) {
     c.app = app.add_subcommand("power", "Power system: one power_step per date, CSV rows");
     ajoute_options_power(c.app, *o);
     c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
+    c.app->add_flag("--units", o->unites, "each column's unit in brackets in the header (t_bat [°C])");
     c.lance = [o] { return lance_power(*o); };
     return c;
 }

@@ -11,6 +11,7 @@ struct OptionsPower {
     std::string pointage;  // "roulis,tangage,lacet", degrees
     double spin = 0;       // turns per minute
     bool resume = false;
+    bool unites = false;  // --units: "name [unit]" in the CSV header
 };
 
 // --pwr .. --out, --eol, --pointing, --spin.

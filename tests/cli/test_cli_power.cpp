@@ -4,6 +4,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "cli/outils_cli.h"
 
@@ -27,6 +28,29 @@ TEST(CliPower, HeaderAndOneRowPerDate) {
     EXPECT_EQ(champs(l[1])[0], "18707.55001");
     // The new project gives no generator power: 600 s of discharge a step, 1200 s at the second.
     EXPECT_EQ(champs(l[2])[21], "1200");
+}
+
+// --units: each header name followed by its unit as the record holds it; the
+// rows stay the same. Without it the header is the names alone (above).
+TEST(CliUnites, PowerAndOrbitHeaders) {
+    const std::string periode = " --start 18707.55001 --end 18707.56 --step 600";
+    const Resultat p = lance("power --units" + periode), q = lance("power" + periode);
+    ASSERT_EQ(p.code, 0) << p.err;
+    const auto lp = lignes(p.out), lq = lignes(q.out);
+    const auto e = champs(lp[0]);
+    ASSERT_EQ(e.size(), 133u);
+    for (auto [i, nom] : {std::pair{0, "date [j]"}, {1, "eclipse [-]"}, {2, "flux_sun [W/m²]"},
+                          {5, "pan_angle [rad]"}, {8, "bat_soc [-]"}, {9, "bat_v [V]"}, {10, "bat_i [A]"},
+                          {19, "t_bat [°C]"}, {21, "t_discharge [s]"}, {22, "node_t_0 [K]"}, {60, "node_t_38 [K]"},
+                          {61, "pan_power_0 [W]"}, {132, "cell_eff_35 [-]"}})
+        EXPECT_EQ(e[i], nom) << i;
+    EXPECT_EQ(std::vector(lp.begin() + 1, lp.end()), std::vector(lq.begin() + 1, lq.end()));
+
+    const Resultat o = lance("orbit --units" + periode);
+    ASSERT_EQ(o.code, 0) << o.err;
+    EXPECT_EQ(lignes(o.out)[0], "j [j],sat_x [km],sat_y [km],sat_z [km],vit_x [km/s],vit_y [km/s],vit_z [km/s],"
+                                "sun_x [km],sun_y [km],sun_z [km],eclipse [-],anomalie_moy [rad],lon [rad],"
+                                "lat [rad],alt [km]");
 }
 
 TEST(CliPower, SummaryOfTheExampleWithExternalPanels) {

@@ -13,6 +13,9 @@ namespace kestrel {
 inline constexpr const char* COLONNES_ORBITE[15] = {"j",     "sat_x", "sat_y", "sat_z",   "vit_x",
                                                     "vit_y", "vit_z", "sun_x", "sun_y",   "sun_z",
                                                     "eclipse", "anomalie_moy", "lon", "lat", "alt"};
+// Units of the columns, same order: days since 1950, km, km/s, km, -1 or 0, rad, km.
+inline constexpr const char* UNITES_ORBITE[15] = {"j",   "km",  "km",  "km",  "km/s", "km/s", "km/s", "km",
+                                                  "km",  "km",  "-",   "rad", "rad",  "rad",  "km"};
 using LigneOrbite = std::array<double, 15>;
 
 void ligne_orbite(double j, const SortiesOrbite& o, LigneOrbite& v);

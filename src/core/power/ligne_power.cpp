@@ -16,7 +16,20 @@ constexpr const char* SCALAIRES[22] = {
     "bat_soc",   "bat_v",     "bat_i",     "bat_p",     "p_payload", "p_excess",  "p_loss_ch",  "p_loss_de",
     "p_loss_gs", "p_loss_pl", "p_heat",    "t_bat",     "t_charge",  "t_discharge"};
 
+// eclipse is -1 in the shadow, bat_soc a fraction, bat_v per accumulator,
+// bat_i per string, t_charge and t_discharge running times.
+constexpr const char* UNITES_SCALAIRES[22] = {
+    "j", "-", "W/m²", "W/m²", "W/m²", "rad", "rad", "W", "-", "V", "A", "W",
+    "W", "W", "W", "W", "W", "W", "W", "°C", "s", "s"};
+
 }  // namespace
+
+const char* unite_colonne_power(std::size_t i) {
+    if (i < 22) return UNITES_SCALAIRES[i];
+    if (i < 22 + 39) return "K";
+    if (i < 22 + 39 + 36) return "W";
+    return "-";
+}
 
 std::string nom_colonne_power(std::size_t i) {
     if (i < 22) return SCALAIRES[i];

@@ -22,6 +22,10 @@ using LignePower = std::array<double, COLONNES_POWER>;
 // Name of column i as the CSV header writes it.
 std::string nom_colonne_power(std::size_t i);
 
+// Unit of column i, as the record holds it: "j" (days since 1950), "W/m²",
+// "rad", "W", "V", "A", "°C", "s", "K"; "-" for a pure number.
+const char* unite_colonne_power(std::size_t i);
+
 // The row of the record at `date` (days).
 void ligne_power(double date, const PowerRecord& p, LignePower& v);
 
