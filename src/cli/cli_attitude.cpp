@@ -1,13 +1,13 @@
 // kestrel attitude: the attitude run of the simulation window, without the
 // window. Writes the results file (temp.tmp format) and reports progress on
 // stderr for runs longer than a second.
-#include <chrono>
 #include <cmath>
 #include <memory>
 #include <vector>
 
 #include "cli/arguments.h"
 #include "cli/commun.h"
+#include "cli/progression.h"
 #include "core/attitude/att_run.h"
 #include "core/shell/types.h"
 
@@ -60,23 +60,11 @@ int lance_attitude(const OptionsAttitude& o) {
     params.pas_ecriture = o.every;
     params.fichier = o.com.out;
 
-    using horloge = std::chrono::steady_clock;
-    const auto depart = horloge::now();
-    int dernier = -1;
-    bool affiche = false;
-    if (!o.quiet) {
-        params.progression = [&](double pc) {
-            int n = static_cast<int>(pc);
-            if (n == dernier) return;
-            if (!affiche && horloge::now() - depart < std::chrono::seconds(1)) return;
-            affiche = true;
-            dernier = n;
-            std::cerr << "\rattitude : " << n << " %" << std::flush;
-        };
-    }
+    Progression progres("attitude", o.quiet);
+    params.progression = [&](double pc) { progres.pourcent(pc); };
 
     BilanRun b = att_run(etat, params);
-    if (affiche) std::cerr << "\rattitude : 100 %\n";
+    progres.termine();
     if (rapporte_run(etat.faute, etat.alertes) != SORTIE_OK) return SORTIE_ECHEC;
     if (!o.quiet)
         std::cerr << "kestrel: attitude: " << b.pas << " pas, " << b.enregistrements

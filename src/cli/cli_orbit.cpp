@@ -9,6 +9,7 @@
 #include "cli/arguments.h"
 #include "cli/commun.h"
 #include "cli/export_orbite.h"
+#include "cli/progression.h"
 #include "cli/sortie.h"
 #include "core/orbit/ligne_orbite.h"
 #include "core/orbit/orb_projection.h"
@@ -86,7 +87,9 @@ Commande enregistre_orbit(CLI::App& app) {
         ->check(parmi({"csv", "oem", "czml"}));
     auto unites = std::make_shared<bool>(false);
     c.app->add_flag("--units", *unites, "each column's unit in brackets in the CSV header (sat_x [km])");
-    c.lance = [options, format, unites]() -> int {
+    auto quiet = std::make_shared<bool>(false);
+    c.app->add_flag("--quiet", *quiet, "no progress line");
+    c.lance = [options, format, unites, quiet]() -> int {
         Etat etat;
         if (int r = prepare_etat(*options, etat); r != SORTIE_OK) return r;
         Sortie out(options->out);
@@ -94,13 +97,18 @@ Commande enregistre_orbit(CLI::App& app) {
         if (*format != "csv") return exporte(etat, *format, out);
         out << entete(*unites) << '\n';
         LigneOrbite v;
-        parcours_dates(etat.session.j_debut, etat.session.j_fin, etat.session.pas_sim, [&](double j) {
+        Progression progres("orbit", *quiet);
+        const double debut = etat.session.j_debut, fin = etat.session.j_fin;
+        parcours_dates(debut, fin, etat.session.pas_sim, [&](double j) {
+            progres.date(j, debut, fin);
             etat.session.j_courant = j;
             orbite_a_date(etat, j);
             if (etat.faute || !ligne_orbite_finie(etat.faute, j, etat.orb, v)) return false;
             out.ligne(v);
             return out.ok();
         });
+        if (!etat.faute) progres.pourcent(100);
+        progres.termine();
         if (etat.faute) {
             echec_run(etat.faute);
             return termine(out, SORTIE_ECHEC);

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "cli/options_power.h"
+#include "cli/progression.h"
 #include "cli/sortie.h"
 #include "core/power/ligne_power.h"
 #include "core/power/power_step.h"
@@ -52,10 +53,15 @@ int lance_power(const OptionsPower& o) {
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
 
     if (!o.resume) ecrit_entete(out, o.unites);
+    Progression progres("power", o.quiet);
+    const double debut = etat.session.j_debut, fin = etat.session.j_fin;
     const BilanPower bilan = run_power(etat, [&](double j, const PowerRecord& p) {
         if (!o.resume) ecrit_ligne(out, j, p);
+        progres.date(j, debut, fin);
         return out.ok();  // a failed write stops the run
     });
+    if (!etat.faute) progres.pourcent(100);  // the last step may fall short of the end date
+    progres.termine();
     if (rapporte_run(etat.faute, etat.alertes) != SORTIE_OK) return termine(out, SORTIE_ECHEC);
     if (o.resume) ecrit_resume(out, bilan.resume, etat);
     return termine(out, SORTIE_OK);
@@ -102,6 +108,7 @@ Commande enregistre_power(CLI::App& app) {
     c.app = app.add_subcommand("power", "Power system: one power_step per date, CSV rows");
     ajoute_options_power(c.app, *o);
     c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
+    c.app->add_flag("--quiet", o->quiet, "no progress line");
     c.app->add_flag("--units", o->unites, "each column's unit in brackets in the header (t_bat [°C])");
     c.lance = [o] { return lance_power(*o); };
     return c;

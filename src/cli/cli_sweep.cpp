@@ -11,6 +11,7 @@
 
 #include "cli/arguments.h"
 #include "cli/options_power.h"
+#include "cli/progression.h"
 #include "cli/sortie.h"
 #include "core/attitude/resume_attitude.h"
 #include "core/power/resume_power.h"
@@ -105,6 +106,7 @@ int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBal
     const Tranche t = tranche(nb_cas(balayages), k, n);
     const unsigned jobs = o.jobs ? o.jobs : std::max(1u, std::thread::hardware_concurrency());
     std::size_t finis = 0;
+    Progression progres("sweep", o.quiet);
     std::atomic<bool> echec{false};
     lance_cas(
         t, jobs,
@@ -118,10 +120,9 @@ int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBal
         },
         [&](std::size_t, const std::string& ligne) {
             out << ligne;
-            ++finis;
-            if (!o.quiet) std::cerr << "\rsweep : " << finis << " / " << t.fin - t.debut << " cas" << std::flush;
+            progres.compte(++finis, t.fin - t.debut);
         });
-    if (!o.quiet) std::cerr << "\n";
+    progres.termine();
     return termine(out, echec ? SORTIE_ECHEC : SORTIE_OK);
 }
 
