@@ -77,8 +77,7 @@ int lance_attitude(const OptionsAttitude& o) {
 Commande enregistre_attitude(CLI::App& app) {
     auto o = std::make_shared<OptionsAttitude>();
     Commande c;
-    c.app = app.add_subcommand("attitude",
-                               "attitude run over the period: writes the results file (temp.tmp format)");
+    c.app = app.add_subcommand("attitude", "Attitude over the period: the results file (temp.tmp format)");
     ajoute_options_communes(c.app, o->com, 10);
     c.app->get_option("--out")->description("results file; default: temp/temp.tmp beside the program");
     c.app->add_option("--every", o->every, "write a record every N steps (default 1)")

@@ -71,9 +71,10 @@ int exporte(Etat& etat, const std::string& format, Sortie& out) {
 Commande enregistre_orbit(CLI::App& app) {
     auto options = std::make_shared<OptionsCommunes>();
     Commande c;
-    c.app = app.add_subcommand(
-        "orbit",
-        "Computes the satellite's orbit over the period: for each date, its position and velocity "
+    c.app = app.add_subcommand("orbit", "Orbit over the period: one CSV row per date (or OEM, CZML)");
+    // the details only under `kestrel orbit --help`, so the listing keeps one line each
+    c.app->footer(
+        "For each date: the satellite's position and velocity "
         "(km, km/s, inertial frame of 1950), the Sun's position (km), whether the satellite is in "
         "the Earth's shadow (-1 yes, 0 no), the mean anomaly (rad) and the point below it "
         "(longitude and latitude in radians, altitude in km). Writes one CSV row per date with the "

@@ -105,7 +105,7 @@ void ajoute_options_power(CLI::App* sub, OptionsPower& o) {
 Commande enregistre_power(CLI::App& app) {
     auto o = std::make_shared<OptionsPower>();
     Commande c;
-    c.app = app.add_subcommand("power", "Power system: one power_step per date, CSV rows");
+    c.app = app.add_subcommand("power", "Power system over the period: one CSV row per date, or a summary");
     ajoute_options_power(c.app, *o);
     c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
     c.app->add_flag("--quiet", o->quiet, "no progress line");

@@ -75,7 +75,7 @@ int montre(const OptionsProjet& o) {
 Commande enregistre_project(CLI::App& app) {
     auto o = std::make_shared<OptionsProjet>();
     Commande c;
-    c.app = app.add_subcommand("project", "write the new-project files, or list the fields of a project file");
+    c.app = app.add_subcommand("project", "New-project files, or the fields of a project file");
     c.app->require_subcommand(1);
     CLI::App* cmd_new = c.app->add_subcommand("new", "write the default .pwr, .att and .orb files");
     cmd_new->add_option("--pwr", o->pwr, "power project to write");

@@ -107,7 +107,7 @@ int lance_generateur(const OptionsGenerateur& o) {
 
 Commande enregistre_study(CLI::App& app) {
     Commande c;
-    c.app = app.add_subcommand("study", "The battery and solar generator sizing studies");
+    c.app = app.add_subcommand("study", "Battery and solar generator sizing studies");
     c.app->require_subcommand(1);
 
     auto b = std::make_shared<OptionsBatterie>();

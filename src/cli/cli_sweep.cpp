@@ -181,7 +181,7 @@ Commande enregistre_sweep(CLI::App& app) {
     auto op = std::make_shared<OptionsPower>();
     auto o = std::make_shared<OptionsBalayage>();
     Commande c;
-    c.app = app.add_subcommand("sweep", "Parameter sweep: one summary row per combination of values");
+    c.app = app.add_subcommand("sweep", "Parameter sweep: one row of summary figures per combination of values");
     c.app->require_subcommand(1);
     CLI::App* power = c.app->add_subcommand("power", "power runs, one row of summary figures per case");
     ajoute_options_power(power, *op);
