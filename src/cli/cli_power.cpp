@@ -29,12 +29,6 @@ void ecrit_entete(Sortie& out, bool unites) {
     out << l << "\n";
 }
 
-void ecrit_ligne(Sortie& out, double date, const PowerRecord& p) {
-    LignePower v;
-    ligne_power(date, p, v);
-    out.ligne(v);
-}
-
 void ecrit_resume(Sortie& out, const ResumePower& r, const Etat& etat) {
     out << fmt::format("Simulation du sous-système d'énergie : {} pas de {} s\n", r.pas, etat.session.pas_sim);
     out << fmt::format("Fraction en éclipse : {:.1f} %\n", 100.0 * r.fraction_eclipse());
@@ -55,8 +49,9 @@ int lance_power(const OptionsPower& o) {
     if (!o.resume) ecrit_entete(out, o.unites);
     Progression progres("power", o.quiet);
     const double debut = etat.session.j_debut, fin = etat.session.j_fin;
-    const BilanPower bilan = run_power(etat, [&](double j, const PowerRecord& p) {
-        if (!o.resume) ecrit_ligne(out, j, p);
+    // the row run_power made and checked is the one written
+    const BilanPower bilan = run_power(etat, [&](double j, const LignePower& ligne) {
+        if (!o.resume) out.ligne(ligne);
         progres.date(j, debut, fin);
         return out.ok();  // a failed write stops the run
     });

@@ -23,7 +23,7 @@ void ResumePower::ajoute(const PowerRecord& p, double pas_s) {
     bilan -= p.bat_p * pas_s / 3600.0;
 }
 
-BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRecord&)>& chaque) {
+BilanPower run_power(Etat& etat, const std::function<bool(double, const LignePower&)>& chaque) {
     BilanPower b;
     vide_canal(etat);
     power_state_init(etat);
@@ -38,7 +38,7 @@ BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRec
         if (etat.faute || !ligne_power_finie(etat, j, ligne)) return false;
         derniere = j;
         b.resume.ajoute(etat.pwr, pas_s);
-        return !chaque || chaque(j, etat.pwr);
+        return !chaque || chaque(j, ligne);
     });
     if (!etat.faute) ligne_finie(etat.faute, derniere, figures(b.resume), FIGURES_POWER);
     return b;

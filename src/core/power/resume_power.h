@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "core/etat.h"
+#include "core/power/ligne_power.h"
 
 namespace kestrel {
 
@@ -27,10 +28,11 @@ struct BilanPower {
 };
 
 // The channel emptied, power_state_init, then one power_step per date of the session's period,
-// its row checked (ligne_power_finie), then `chaque(date, record)`; stops at
+// its row checked (ligne_power_finie), then `chaque(date, row)` with that
+// checked row (the CSV's columns); stops at
 // the first fault (etat.faute) or when `chaque` returns false. The summary's
 // figures are checked finite at the end of a run that went through.
-BilanPower run_power(Etat& etat, const std::function<bool(double, const PowerRecord&)>& chaque = {});
+BilanPower run_power(Etat& etat, const std::function<bool(double, const LignePower&)>& chaque = {});
 
 // The summary's figures in the order of their names.
 inline constexpr const char* FIGURES_POWER[9] = {"eclipse_fraction", "soc_min",       "soc_max",
