@@ -25,8 +25,7 @@ std::string entete(bool unites = false) {
     std::string l;
     for (std::size_t i = 0; i < std::size(COLONNES_ORBITE); ++i) {
         if (i) l += ',';
-        l += COLONNES_ORBITE[i];
-        if (unites) ((l += " [") += UNITES_ORBITE[i]) += ']';
+        l += colonne(COLONNES_ORBITE[i], UNITES_ORBITE[i], unites);
     }
     return l;
 }
@@ -87,7 +86,7 @@ Commande enregistre_orbit(CLI::App& app) {
                       "or czml (CesiumJS, Earth-fixed positions)")
         ->check(parmi({"csv", "oem", "czml"}));
     auto unites = std::make_shared<bool>(false);
-    c.app->add_flag("--units", *unites, "each column's unit in brackets in the CSV header (sat_x [km])");
+    ajoute_option_unites(c.app, *unites, "sat_x [km]");
     auto quiet = std::make_shared<bool>(false);
     c.app->add_flag("--quiet", *quiet, "no progress line");
     c.lance = [options, format, unites, quiet]() -> int {

@@ -23,8 +23,7 @@ void ecrit_entete(Sortie& out, bool unites) {
     std::string l;
     for (std::size_t i = 0; i < COLONNES_POWER; ++i) {
         if (i) l += ',';
-        l += nom_colonne_power(i);
-        if (unites) ((l += " [") += unite_colonne_power(i)) += ']';
+        l += colonne(nom_colonne_power(i), unite_colonne_power(i), unites);
     }
     out << l << "\n";
 }
@@ -104,7 +103,7 @@ Commande enregistre_power(CLI::App& app) {
     ajoute_options_power(c.app, *o);
     c.app->add_flag("--summary", o->resume, "a short French summary of the run instead of the rows");
     c.app->add_flag("--quiet", o->quiet, "no progress line");
-    c.app->add_flag("--units", o->unites, "each column's unit in brackets in the header (t_bat [°C])");
+    ajoute_option_unites(c.app, o->unites, "t_bat [°C]");
     c.lance = [o] { return lance_power(*o); };
     return c;
 }

@@ -9,6 +9,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commun.h"
+#include "cli/progression.h"
 #include "cli/sortie.h"
 #include "core/power/etude_batterie.h"
 #include "core/power/etude_generateur.h"
@@ -21,11 +22,15 @@ struct OptionsBatterie {
     OptionsCommunes communes;
     EntreesBatterie e;
     std::string mode = "power";
+    bool unites = false;
+    bool quiet = false;
 };
 
 struct OptionsGenerateur {
     OptionsCommunes communes;
     std::string vue = "temperature";
+    bool unites = false;
+    bool quiet = false;
 };
 
 int lance_batterie(OptionsBatterie o) {
@@ -41,11 +46,22 @@ int lance_batterie(OptionsBatterie o) {
     }
     Sortie out(o.communes.out);
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
-    const ResultatBatterie r = etude_batterie(etat.pwr, o.e);
+    // each phase counts from 0 to its own maximum, as the window's bar does
+    Progression progres("study battery", o.quiet);
+    const ResultatBatterie r = etude_batterie(etat.pwr, o.e, [&](const ProgressionBatterie& x) {
+        progres.pourcent(x.maximum > 0 ? 100.0 * static_cast<double>(x.valeur) / static_cast<double>(x.maximum)
+                                       : 100.0);
+    });
+    progres.termine();
 
     out << fmt::format("DOD %,{}\n", r.dod);
     out << "Temps de recharge," << texte_duree(r.temps_recharge) << "\n";
-    out << "t,phase,s,v,i\n";
+    // time from the start of the discharge, state of charge as a fraction,
+    // voltage per accumulator, current in C units
+    if (o.unites)
+        out << "t [s],phase [-],s [-],v [V],i [C]\n";
+    else
+        out << "t,phase,s,v,i\n";
     for (const EchantillonBatterie& x : r.echantillons) {
         out.entier(x.t) << ',' << static_cast<char>(x.phase) << ',';
         out.nombre(x.s) << ',';
@@ -83,12 +99,16 @@ int lance_generateur(const OptionsGenerateur& o) {
                                                 : VueGenerateur::temperature;
     Sortie out(o.communes.out);
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
-    const ResultatGenerateur r = etude_generateur(etat);
+    Progression progres("study generator", o.quiet);
+    const ResultatGenerateur r = etude_generateur(etat, [&](double pc) { progres.pourcent(pc); });
+    progres.termine();
     if (r.faute.code == CodeErreur::date_cellules) return echec_run(r.faute);
 
     const TableGenerateur& t = r.table(vue);
-    out << "date (j),eclipse";
-    for (std::size_t c = 0; c < t.colonnes(); ++c) out << fmt::format(",{} ({})", t.titres[c], t.unites[c]);
+    // the window's captions, "Panneau 1 (°C)"; with --units in brackets like every CSV
+    out << (o.unites ? "date [j],eclipse [-]" : "date (j),eclipse");
+    for (std::size_t c = 0; c < t.colonnes(); ++c)
+        out << ',' << t.titres[c] << (o.unites ? " [" : " (") << t.unites[c] << (o.unites ? ']' : ')');
     out << '\n';
     for (std::size_t i = 0; i < t.lignes(); ++i) {
         out.nombre(r.dates[i]) << (r.eclipses[i] ? ",1" : ",0");
@@ -128,6 +148,8 @@ Commande enregistre_study(CLI::App& app) {
     bat->add_option("--current", b->e.i_decharge,
                     "discharge current, C units (first guess of the current at constant power)")
         ->capture_default_str();
+    ajoute_option_unites(bat, b->unites, "v [V]");
+    bat->add_flag("--quiet", b->quiet, "no progress line");
 
     auto g = std::make_shared<OptionsGenerateur>();
     CLI::App* gen =
@@ -136,6 +158,8 @@ Commande enregistre_study(CLI::App& app) {
     gen->add_option("--view", g->vue, "temperature (°C), power (W) or flux (W/m²)")
         ->check(parmi({"temperature", "power", "flux"}))
         ->capture_default_str();
+    ajoute_option_unites(gen, g->unites, "Panneau 1 [°C]");
+    gen->add_flag("--quiet", g->quiet, "no progress line");
 
     c.lance = [b, g, bat, gen] {
         if (bat->parsed()) return lance_batterie(*b);

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <thread>
@@ -17,6 +16,7 @@
 #include "core/power/resume_power.h"
 #include "core/project/balayage.h"
 #include "core/project/reglage_champs.h"
+#include "core/project/unites_champs.h"
 #include "core/shell/messages.h"
 
 namespace kestrel::cli {
@@ -28,6 +28,7 @@ struct OptionsBalayage {
     unsigned jobs = 0;                  // 0: all cores
     std::string cas;                    // "K:N"
     bool quiet = false;
+    bool unites = false;                // --units
 };
 
 // --set texts read and checked against the base project; false after a message.
@@ -72,7 +73,7 @@ bool lit_tranche(const std::string& texte, std::size_t& k, std::size_t& n) {
 }
 
 // Figures of one case as ",x,y,...", or empty when the run stopped on a fault
-// (left in etat.faute); `colonnes` names them, each after a comma.
+// (left in etat.faute).
 using Figures = std::function<std::string(Etat&)>;
 
 std::string ligne_du_cas(std::size_t i, const std::vector<double>& valeurs, const std::string& figures,
@@ -86,8 +87,9 @@ std::string ligne_du_cas(std::size_t i, const std::vector<double>& valeurs, cons
     return l + ",\"" + t + "\"\n";
 }
 
-int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBalayage& o, const char* colonnes,
-                   const Figures& figures) {
+// `colonnes`: the header cells of the figures, in their order.
+int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBalayage& o,
+                   const std::vector<std::string>& colonnes, const Figures& figures) {
     std::vector<Balayage> balayages;
     if (!lit_reglages(o, base, balayages)) return SORTIE_ARGUMENTS;
     std::size_t k = 1, n = 1;
@@ -97,11 +99,12 @@ int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBal
     }
     Sortie out(chemin);
     if (!out.ok()) return signale(out.message(), SORTIE_ECHEC);
-    const std::size_t nb_figures = static_cast<std::size_t>(std::count(colonnes, colonnes + std::strlen(colonnes), ','));
+    const std::size_t nb_figures = colonnes.size();
     if (k == 1) {
-        out << "case";
-        for (const Balayage& s : balayages) out << ',' << s.nom;
-        out << colonnes << ",fault\n";
+        out << colonne("case", "-", o.unites);
+        for (const Balayage& s : balayages) out << ',' << colonne(s.nom, unite_champ(s.nom), o.unites);
+        for (const std::string& c : colonnes) out << ',' << c;
+        out << ',' << colonne("fault", "-", o.unites) << '\n';
     }
     const Tranche t = tranche(nb_cas(balayages), k, n);
     const unsigned jobs = o.jobs ? o.jobs : std::max(1u, std::thread::hardware_concurrency());
@@ -126,11 +129,11 @@ int lance_balayage(const Etat& base, const std::string& chemin, const OptionsBal
     return termine(out, echec ? SORTIE_ECHEC : SORTIE_OK);
 }
 
-// ",steps" and the names of the summary's figures, in their order.
+// "steps" and the names of the summary's figures, in their order, each with its unit if asked.
 template <std::size_t N>
-std::string colonnes(const char* const (&figures)[N]) {
-    std::string c = ",steps";
-    for (const char* n : figures) (c += ',') += n;
+std::vector<std::string> colonnes(const char* const (&noms)[N], const char* const (&unites)[N], bool avec) {
+    std::vector<std::string> c{colonne("steps", "-", avec)};
+    for (std::size_t i = 0; i < N; ++i) c.push_back(colonne(noms[i], unites[i], avec));
     return c;
 }
 
@@ -139,7 +142,7 @@ int lance_balayage_power(const OptionsPower& op, const OptionsBalayage& o) {
     if (int r = prepare_power(op, base); r != SORTIE_OK) return r;
     return lance_balayage(
         base, op.communes.out, o,
-        colonnes(FIGURES_POWER).c_str(),
+        colonnes(FIGURES_POWER, UNITES_FIGURES_POWER, o.unites),
         [](Etat& etat) {
             // a swept period or cells' date may break the ageing rule
             if (!(etat.session.j_debut > etat.pwr.date_cell)) {
@@ -157,7 +160,7 @@ int lance_balayage_attitude(const OptionsCommunes& oc, const OptionsBalayage& o)
     Etat base;
     if (int r = prepare_etat(oc, base)) return r;
     if (!oc.step && oc.pwr.empty()) base.session.pas_sim = 10;  // as kestrel attitude
-    return lance_balayage(base, oc.out, o, colonnes(FIGURES_ATTITUDE).c_str(), [](Etat& etat) {
+    return lance_balayage(base, oc.out, o, colonnes(FIGURES_ATTITUDE, UNITES_FIGURES_ATTITUDE, o.unites), [](Etat& etat) {
         const ResumeAttitude r = run_resume_attitude(etat);
         std::string l = "," + std::to_string(r.pas);
         for (double x : figures(r)) (l += ',') += texte_nombre(x);
@@ -173,6 +176,7 @@ void ajoute_options_balayage(CLI::App* sub, OptionsBalayage& o) {
     sub->add_option("--jobs", o.jobs, "threads (default: all cores)")->check(entre(1, 1024));
     sub->add_option("--cases", o.cas, "K:N: only the K-th of N equal slices of the cases (header in slice 1)");
     sub->add_flag("--quiet", o.quiet, "no progress line");
+    ajoute_option_unites(sub, o.unites, "bat_c [Ah]");
 }
 
 }  // namespace

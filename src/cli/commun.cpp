@@ -36,6 +36,20 @@ const CLI::Validator& nombres_finis() {
     return v;
 }
 
+void ajoute_option_unites(CLI::App* sub, bool& unites, const std::string& exemple) {
+    sub->add_flag("--units", unites, "each column's unit in brackets in the CSV header (" + exemple + ")");
+}
+
+std::string colonne(std::string_view nom, std::string_view unite, bool unites) {
+    std::string c(nom);
+    if (unites) ((c += " [") += unite) += ']';
+    if (c.find_first_of(",\"") == std::string::npos) return c;
+    // "ch_pt(0,1)": quoted as one CSV cell, inner quotes doubled
+    std::string q = "\"";
+    for (char x : c) (x == '"' ? q += "\"\"" : q += x);
+    return q + '"';
+}
+
 void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defaut) {
     sub->add_option("--pwr", o.pwr, "power project (.pwr); default: a new project");
     sub->add_option("--att", o.att, "attitude project (.att); default: a new project");

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/etat.h"
 #include "core/shell/dossiers.h"
@@ -42,6 +43,13 @@ const CLI::Validator& nombres_finis();
 
 // Adds --pwr --att --orb (or --tle) --start --end --step --out to a sub-command.
 void ajoute_options_communes(CLI::App* sub, OptionsCommunes& o, double pas_defaut = 120);
+
+// --units on a CSV sub-command; `exemple` shows one header cell ("t_bat [°C]").
+void ajoute_option_unites(CLI::App* sub, bool& unites, const std::string& exemple);
+
+// A header cell: the column's name, then its unit in brackets when asked;
+// quoted when it holds a comma (array elements "ch_pt(0,1)").
+std::string colonne(std::string_view nom, std::string_view unite, bool unites);
 
 // Exit codes of the command line.
 constexpr int SORTIE_OK = 0;

@@ -11,8 +11,8 @@ struct OptionsPower {
     std::string pointage;  // "roulis,tangage,lacet", degrees
     double spin = 0;       // turns per minute
     bool resume = false;
-    bool unites = false;
-    bool quiet = false;   // --quiet: no progress line  // --units: "name [unit]" in the CSV header
+    bool unites = false;  // --units: "name [unit]" in the CSV header
+    bool quiet = false;   // --quiet: no progress line
 };
 
 // --pwr .. --out, --eol, --pointing, --spin.

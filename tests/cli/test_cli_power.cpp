@@ -53,6 +53,34 @@ TEST(CliUnites, PowerAndOrbitHeaders) {
                                 "lat [rad],alt [km]");
 }
 
+// The later CSV sub-commands take --units too; their rows do not change.
+TEST(CliUnites, StudyAndSweepHeaders) {
+    const Resultat b = lance("study battery --tecl 1 --units"), b0 = lance("study battery --tecl 1");
+    ASSERT_EQ(b.code, 0) << b.err;
+    const auto lb = lignes(b.out), lb0 = lignes(b0.out);
+    // seconds, phase letter, state of charge as a fraction, volts per accumulator, current in C
+    EXPECT_EQ(lb[2], "t [s],phase [-],s [-],v [V],i [C]");
+    EXPECT_EQ(std::vector(lb.begin() + 3, lb.end()), std::vector(lb0.begin() + 3, lb0.end()));
+
+    const Resultat g = lance("study generator --units --end 18707.56");
+    ASSERT_EQ(g.code, 0) << g.err;
+    EXPECT_EQ(lignes(g.out)[0], "date [j],eclipse [-],Panneau 1 [°C],Maximum [°C],Minimum [°C]");
+
+    // Swept fields: capacity per accumulator in Ah, inclination in degrees, damper mass in kg.
+    const Resultat p = lance("sweep power --quiet --units --end 18707.56 --set bat_c=10 --set orb_inclinaison=98");
+    ASSERT_EQ(p.code, 0) << p.err;
+    EXPECT_EQ(lignes(p.out)[0], "case [-],bat_c [Ah],orb_inclinaison [°],steps [-],eclipse_fraction [-],"
+                                "soc_min [-],soc_max [-],t_bat_min [°C],t_bat_max [°C],gen_power_min [W],"
+                                "gen_power_max [W],gen_power_mean [W],energy_balance [Wh],fault [-]");
+    // An element of a two-index array is one quoted cell, with and without units.
+    const Resultat a = lance("sweep attitude --quiet --units --end 18707.56 --set 'md(0)=1' --set 'I_corps(0,0)=2'");
+    ASSERT_EQ(a.code, 0) << a.err;
+    EXPECT_EQ(lignes(a.out)[0], "case [-],md(0) [kg],\"I_corps(0,0) [kg m²]\",steps [-],max_rate [°/s],roll [°],"
+                                "pitch [°],yaw [°],fault [-]");
+    const Resultat a0 = lance("sweep attitude --quiet --end 18707.56 --set 'I_corps(0,0)=2'");
+    EXPECT_EQ(lignes(a0.out)[0], "case,\"I_corps(0,0)\",steps,max_rate,roll,pitch,yaw,fault");
+}
+
 TEST(CliPower, SummaryOfTheExampleWithExternalPanels) {
     const Resultat r = lance("power --pwr \"" KESTREL_SOURCE_DIR "/examples/panneaux_externes.pwr\" --summary");
     ASSERT_EQ(r.code, 0) << r.err;

@@ -18,6 +18,7 @@ struct ResumeAttitude {
 
 // The figures in the order of their names.
 inline constexpr const char* FIGURES_ATTITUDE[4] = {"max_rate", "roll", "pitch", "yaw"};
+inline constexpr const char* UNITES_FIGURES_ATTITUDE[4] = {"°/s", "°", "°", "°"};
 std::array<double, 4> figures(const ResumeAttitude& r);
 
 // An attitude run over the session's period for its figures alone (no

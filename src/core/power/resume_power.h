@@ -38,6 +38,7 @@ BilanPower run_power(Etat& etat, const std::function<bool(double, const LignePow
 inline constexpr const char* FIGURES_POWER[9] = {"eclipse_fraction", "soc_min",       "soc_max",
                                                   "t_bat_min",        "t_bat_max",     "gen_power_min",
                                                   "gen_power_max",    "gen_power_mean", "energy_balance"};
+inline constexpr const char* UNITES_FIGURES_POWER[9] = {"-", "-", "-", "°C", "°C", "W", "W", "W", "Wh"};
 std::array<double, 9> figures(const ResumePower& r);
 
 }  // namespace kestrel
