@@ -63,8 +63,11 @@ Pict_visu3d::Pict_visu3d(const QString& dossier, QWidget* parent) : QOpenGLWidge
 }
 
 Pict_visu3d::~Pict_visu3d() {
-    // The textures belong to the context: free them while it is current.
+    // The textures belong to the context: free them while it is current. The
+    // base class destroys the context after this body: its aboutToBeDestroyed
+    // must no longer reach this object, already half gone by then.
     if (context()) {
+        disconnect(context(), nullptr, this, nullptr);
         makeCurrent();
         libere();
         doneCurrent();
