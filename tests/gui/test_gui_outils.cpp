@@ -51,6 +51,7 @@ class TestOutils : public QObject {
 private slots:
     void filtre_en_forme_qt();
     void saisie_verifiee_en_quittant();
+    void saisie_verifiee_en_changeant_d_onglet();
     void registre_par_tag();
     void chaque_cle_a_son_dessin();
     void rapport_du_canal_de_fautes();
@@ -104,6 +105,41 @@ void TestOutils::saisie_verifiee_en_quittant() {
     QCOMPARE(f.autre->text(), "3");
     QVERIFY(f.autre->hasFocus());
     QCOMPARE(nb, 3);
+}
+
+void TestOutils::saisie_verifiee_en_changeant_d_onglet() {
+    // A click on another tab ends the entry as leaving the box does: stored
+    // when good; when refused, the message, the old text, and the box's page
+    // back in front with the focus in the box.
+    FauxDialogues dlg;
+    double masse = 5.0;
+    QTabWidget onglets;
+    auto* page = new QWidget;
+    auto* champ = new QLineEdit("5", page);
+    (new QVBoxLayout(page))->addWidget(champ);
+    onglets.addTab(page, "Masses");
+    onglets.addTab(new QLineEdit, "Autre");
+    gui::surveille(champ, dlg, gui::reel_borne(masse, 0.0, 10.0));
+    onglets.show();
+    QVERIFY(QTest::qWaitForWindowActive(&onglets));
+    QTabBar* barre = onglets.tabBar();
+    for (const auto& [texte, refus, valeur] : {std::tuple{"7.5", false, 7.5}, {"12", true, 7.5}}) {
+        onglets.setCurrentIndex(0);
+        champ->setFocus();
+        champ->selectAll();
+        QTest::keyClicks(champ, texte);
+        const auto avant = dlg.messages.size();
+        QTest::mouseClick(barre, Qt::LeftButton, {}, barre->tabRect(1).center());
+        QCOMPARE(masse, valeur);
+        QCOMPARE(dlg.messages.size(), avant + (refus ? 1 : 0));
+        if (refus) {
+            QTRY_COMPARE(onglets.currentIndex(), 0);
+            QCOMPARE(champ->text(), "7.5");
+            QTRY_VERIFY(champ->hasFocus());
+        } else {
+            QCOMPARE(onglets.currentIndex(), 1);
+        }
+    }
 }
 
 void TestOutils::registre_par_tag() {

@@ -19,9 +19,12 @@ void page_conf::lie(const QString& nom, std::function<int()> indice) {
     if (!indice) indice = [] { return 0; };
     liens_.push_back({edit, champ, indice});
     surveille(edit, dialogues_, [this, champ, indice](const QString& texte) {
-        const Verdict v = saisie_energie(etat_.pwr, champ.toStdString(), indice(), texte.toStdString());
+        const std::string c = champ.toStdString();
+        const double avant = valeur_energie(etat_.pwr, c, indice());
+        const Verdict v = saisie_energie(etat_.pwr, c, indice(), texte.toStdString());
         if (v.ok) {
-            etat_.session.config_modifiee = 1;
+            // a box left as it was (another tab clicked) changes nothing
+            if (valeur_energie(etat_.pwr, c, indice()) != avant) etat_.session.config_modifiee = 1;
             affiche_champs();
             apres_saisie(champ);
             emit modifie(champ);

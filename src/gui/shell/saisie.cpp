@@ -3,10 +3,29 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTimer>
 
 #include "shell/dialogues.h"
 
 namespace kestrel::gui {
+
+namespace {
+
+// Brings to the front every tab or stacked page that holds w.
+void montre_page(QWidget* w) {
+    for (; w && !w->isWindow(); w = w->parentWidget()) {
+        auto* pile = qobject_cast<QStackedWidget*>(w->parentWidget());
+        if (!pile) continue;
+        if (auto* onglets = qobject_cast<QTabWidget*>(pile->parentWidget()))
+            onglets->setCurrentWidget(w);
+        else
+            pile->setCurrentWidget(w);
+    }
+}
+
+}  // namespace
 
 ControleSaisie::ControleSaisie(QLineEdit* champ, Dialogues& dialogues, Verification verif)
     : QObject(champ), champ_(champ), dialogues_(dialogues), verif_(std::move(verif)),
@@ -18,11 +37,12 @@ bool ControleSaisie::eventFilter(QObject* objet, QEvent* evt) {
     if (objet == champ_ && !en_cours_) {
         if (evt->type() == QEvent::FocusIn) ancien_ = champ_->text();
         // Going to another program, a popup or a window being closed is no
-        // end of the entry.
+        // end of the entry; another tab of the same window is (the box's page
+        // is already hidden then, its window is not).
         if (evt->type() == QEvent::FocusOut) {
             const auto raison = static_cast<QFocusEvent*>(evt)->reason();
             if (raison != Qt::ActiveWindowFocusReason && raison != Qt::PopupFocusReason &&
-                champ_->isVisible())
+                champ_->window()->isVisible())
                 verifie();
         }
     }
@@ -38,7 +58,16 @@ void ControleSaisie::verifie() {
     en_cours_ = true;
     dialogues_.message(champ_, QString::fromStdString(v.message), v.icone);
     champ_->setText(ancien_);
-    champ_->setFocus(Qt::OtherFocusReason);
+    if (champ_->isVisible()) {
+        champ_->setFocus(Qt::OtherFocusReason);
+    } else {
+        // Refused on a tab change: once the change is over, the box's page
+        // comes back to the front with the focus in the box.
+        QTimer::singleShot(0, champ_, [c = champ_] {
+            montre_page(c);
+            c->setFocus(Qt::OtherFocusReason);
+        });
+    }
     en_cours_ = false;
 }
 
