@@ -14,8 +14,6 @@ namespace kestrel {
 
 namespace {
 
-double signe(double x) { return (x > 0) - (x < 0); }
-
 // Rows of M (damper equations: row 5 for damper 0, 3 for 1, 4 for 2) and
 // columns (zdd0, zdd1, zdd2 in 3, 4, 5) kept for each set of active dampers,
 // indexed by bit d = damper d active.

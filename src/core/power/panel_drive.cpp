@@ -4,14 +4,11 @@
 #include <cmath>
 
 #include "core/etat.h"
+#include "core/math/math.h"
 #include "core/power/panel_drive.h"
 #include "core/power/panel_target.h"
 
 namespace kestrel {
-
-namespace {
-double signe(double x) { return x > 0 ? 1.0 : (x < 0 ? -1.0 : 0.0); }
-}  // namespace
 
 void panel_drive_update(Etat& etat, int pas) {
     PowerRecord& p = etat.pwr;

@@ -2,14 +2,13 @@
 #include <cmath>
 
 #include "core/etat.h"
+#include "core/math/math.h"
 #include "core/power/flux.h"
 #include "core/power/panel_target.h"
 
 namespace kestrel {
 
 namespace {
-
-double signe(double x) { return x > 0 ? 1.0 : (x < 0 ? -1.0 : 0.0); }
 
 // Turn the target by half a turn when the rear would collect more.
 void retournement(Etat& etat) {
