@@ -10,7 +10,7 @@
 #include "core/attitude/atmosphere.h"
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "memoire.h"
 
 namespace {

@@ -3,7 +3,7 @@
 // in each layout with the memory its tables take.
 #include <benchmark/benchmark.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/etude_batterie.h"
 #include "core/power/etude_generateur.h"
 #include "memoire.h"

@@ -7,7 +7,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"
 #include "memoire.h"

@@ -2,7 +2,7 @@
 // reported as simulated seconds per wall second, with the peak memory.
 #include <benchmark/benchmark.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/power_step.h"
 #include "core/shell/parcours.h"
 #include "memoire.h"

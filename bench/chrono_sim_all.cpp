@@ -17,7 +17,7 @@
 #include <cstdio>
 #include <ctime>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/power_step.h"
 #include "core/project/energie.h"
 #include "power/pict_visu3d.h"

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "core/attitude/att_run.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/resume_power.h"
 #include "core/shell/dossiers.h"
 #include "core/shell/periode.h"

@@ -1,6 +1,6 @@
 // An attitude project (.att) from the fuzzer's bytes: the record, the
 // listing, then a short run.
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/liste_champs.h"
 #include "core/project/fichiers_binaires.h"
 #include "court.h"

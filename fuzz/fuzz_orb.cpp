@@ -1,7 +1,7 @@
 // An orbit (.orb) from the fuzzer's bytes: the record, the listing, the
 // default period it sets (its epoch to one orbital period later), then a
 // short run.
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/liste_champs.h"
 #include "core/project/fichiers_binaires.h"
 #include "court.h"

@@ -1,6 +1,6 @@
 // A power project (.pwr) from the fuzzer's bytes: the reader, the listing,
 // then a short run. What was read must also write and read back.
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/encodage.h"
 #include "core/project/liste_champs.h"
 #include "core/project/energie.h"

@@ -1,6 +1,6 @@
 // A two-line element set from the fuzzer's bytes: the reader, then a short
 // run over the default period from the orbit it gave.
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/tle.h"
 #include "court.h"
 

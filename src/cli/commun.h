@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/shell/dossiers.h"
 
 namespace kestrel::cli {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string_view>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "shell/dialogues.h"
 #include "shell/frm_first.h"
 #include "shell/traduction.h"

@@ -8,7 +8,7 @@
 
 #include "cli/outils_cli.h"
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/fichiers_binaires.h"
 
 using namespace kestrel::test;

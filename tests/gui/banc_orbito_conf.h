@@ -6,7 +6,7 @@
 #include <QtWidgets>
 #include <memory>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "faux_dialogues.h"
 #include "orbit/orbito_conf.h"
 #include "shell/menu.h"

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "attitude/att_conf.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/fichiers_binaires.h"
 #include "core/shell/messages.h"
 #include "faux_dialogues.h"

@@ -5,7 +5,7 @@
 #include <QLineSeries>
 
 #include "attitude/att_sim.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "faux_dialogues.h"
 
 using namespace kestrel;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/energie.h"
 #include "core/project/fichiers_binaires.h"
 #include "core/shell/messages.h"

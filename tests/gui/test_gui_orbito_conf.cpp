@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "banc_orbito_conf.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "shell/traduction.h"
 
 using kestrel::Etat;

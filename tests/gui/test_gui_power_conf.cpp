@@ -6,7 +6,7 @@
 #include <QtWidgets>
 #include <memory>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/energie.h"
 #include "faux_dialogues.h"
 #include "project/power_conf.h"

@@ -5,7 +5,7 @@
 #include <QtWidgets>
 #include <memory>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "faux_dialogues.h"
 #include "power/graphes_batterie.h"
 #include "power/power_exp_bat.h"

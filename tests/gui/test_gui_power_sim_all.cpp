@@ -5,7 +5,7 @@
 #include <QtWidgets>
 #include <memory>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/power_step.h"
 #include "core/project/energie.h"
 #include "core/shell/messages.h"

@@ -15,7 +15,7 @@
 #include "core/attitude/attitude_step.h"
 #include "core/shell/dossiers.h"
 #include "core/shell/ligne_finie.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 

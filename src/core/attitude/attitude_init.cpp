@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 
 namespace kestrel {

@@ -5,7 +5,7 @@
 
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/total_torque.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/lineaire.h"
 #include "core/math/math.h"
 #include "core/orbit/matrices.h"

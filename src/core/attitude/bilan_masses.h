@@ -2,7 +2,7 @@
 // centres of the six faces. Body axes, kg, m, kg m².
 #pragma once
 
-#include "core/attitude/attitude_record.h"
+#include "core/etat/attitude_record.h"
 
 namespace kestrel {
 

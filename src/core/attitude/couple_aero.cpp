@@ -3,7 +3,7 @@
 #include "core/attitude/atmosphere.h"
 #include "core/attitude/couple_aero.h"
 #include "core/attitude/faces.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 
 namespace kestrel {

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "core/attitude/couple_gravite.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 
 namespace kestrel {

@@ -2,7 +2,7 @@
 
 #include "core/attitude/champ_igrf.h"
 #include "core/attitude/couple_magnetique.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/math.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"

@@ -2,7 +2,7 @@
 
 #include "core/attitude/couple_solaire.h"
 #include "core/attitude/faces.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 
 namespace kestrel {

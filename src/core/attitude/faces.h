@@ -1,6 +1,6 @@
 // Face areas of the central box, m², shared by the aerodynamic and solar models.
 #pragma once
-#include "core/attitude/attitude_record.h"
+#include "core/etat/attitude_record.h"
 
 namespace kestrel {
 

@@ -1,7 +1,7 @@
 #include "core/attitude/pointage_soleil.h"
 
 #include "core/attitude/attitude_init.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/math.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"

@@ -3,7 +3,7 @@
 #pragma once
 #include <array>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/attitude/attitude_record.h"
+#include "core/etat/attitude_record.h"
 
 namespace kestrel {
 

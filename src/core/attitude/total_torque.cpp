@@ -3,7 +3,7 @@
 #include "core/attitude/couple_magnetique.h"
 #include "core/attitude/couple_solaire.h"
 #include "core/attitude/total_torque.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/shell/calendrier.h"
 #include "core/shell/format_image.h"
 

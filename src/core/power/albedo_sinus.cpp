@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "core/power/rayonnement_terre.h"
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 namespace kestrel {
 

@@ -2,7 +2,7 @@
 // power, by secant from the previous step's current.
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/bat_curves.h"
 #include "core/power/bat_solveurs.h"
 

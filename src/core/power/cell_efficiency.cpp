@@ -1,7 +1,7 @@
 // One-exponential model of a cell string at the bus voltage.
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/cell_efficiency.h"
 
 namespace kestrel {

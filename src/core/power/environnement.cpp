@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/math.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_trajecto.h"

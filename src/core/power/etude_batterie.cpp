@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/bat_curves.h"
 #include "core/power/bat_solveurs.h"
 

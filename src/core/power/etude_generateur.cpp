@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/flux.h"
 #include "core/power/ligne_power.h"
 #include "core/power/panel_target.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 
 namespace kestrel {

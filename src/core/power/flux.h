@@ -2,7 +2,7 @@
 // a elevation from the xy plane (pi/2 is +z), b azimuth, radians. They read
 // the direction and flux fields that environment_update left. W/m².
 #pragma once
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 namespace kestrel {
 

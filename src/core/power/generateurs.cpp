@@ -1,6 +1,6 @@
 // Electrical power of the panels: flux through the cell law times the
 // efficiency at the panel's temperature of the previous step, times area.
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/cell_efficiency.h"
 #include "core/power/flux.h"
 #include "core/power/generateurs.h"

@@ -1,6 +1,6 @@
 #include "core/power/geometrie_vue.h"
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"
 

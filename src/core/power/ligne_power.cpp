@@ -4,7 +4,7 @@
 
 #include <fmt/format.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/shell/ligne_finie.h"
 
 namespace kestrel {

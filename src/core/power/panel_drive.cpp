@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/math.h"
 #include "core/power/panel_drive.h"
 #include "core/power/panel_target.h"

@@ -1,7 +1,7 @@
 // Where an external panel (front normal at azimuth pi) wants to point.
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/math.h"
 #include "core/power/flux.h"
 #include "core/power/panel_target.h"

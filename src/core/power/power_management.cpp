@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/bat_curves.h"
 #include "core/power/bat_solveurs.h"
 #include "core/power/power_management.h"

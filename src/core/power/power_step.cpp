@@ -3,7 +3,7 @@
 // management, then the thermal model with this step's heat.
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/bat_curves.h"
 #include "core/power/environnement.h"
 #include "core/power/generateurs.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 #include "core/shell/types.h"
 
 namespace kestrel {

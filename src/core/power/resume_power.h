@@ -6,7 +6,7 @@
 #include <functional>
 #include <limits>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/ligne_power.h"
 
 namespace kestrel {

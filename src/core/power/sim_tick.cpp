@@ -1,6 +1,6 @@
 #include "core/power/sim_tick.h"
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/environnement.h"
 #include "core/power/power_step.h"
 

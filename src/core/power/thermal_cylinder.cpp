@@ -3,7 +3,7 @@
 // above 300 s is run in at most 599 passes of k seconds.
 #include <array>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/alpha.h"
 #include "core/power/flux.h"
 #include "core/power/thermal_cylinder.h"

@@ -3,7 +3,7 @@
 // optical data. One-second explicit Euler passes.
 #include <array>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/alpha.h"
 #include "core/power/flux.h"
 #include "core/power/thermal_ext_panels.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/alpha.h"
 #include "core/power/flux.h"
 #include "core/power/thermal_faces.h"

@@ -6,7 +6,7 @@
 #pragma once
 #include <tuple>
 
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 namespace kestrel {
 

@@ -3,7 +3,7 @@
 // index itself, which the caller sets).
 #pragma once
 
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 namespace kestrel {
 

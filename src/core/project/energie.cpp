@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/chemins.h"
 #include "core/project/encodage.h"
 #include "core/project/energie.h"

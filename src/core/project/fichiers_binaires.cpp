@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "core/attitude/bilan_masses.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/chemins.h"
 #include "core/project/enregistrements.h"
 #include "core/project/fichiers_binaires.h"

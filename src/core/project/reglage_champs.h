@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 

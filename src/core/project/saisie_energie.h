@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 #include "core/shell/validateurs.h"
 
 namespace kestrel {

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "core/attitude/pointage_soleil.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/elements_orbite.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_trajecto.h"

@@ -13,7 +13,7 @@
 #include "attitude/att_dessin.h"
 #include "core/attitude/bilan_masses.h"
 #include "core/attitude/saisie_attitude.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "shell/menu.h"
 #include "shell/saisie.h"
 #include "ui_att_conf_actionneurs.h"

@@ -9,7 +9,7 @@
 #include "attitude/att_conf.h"
 #include "core/attitude/bilan_masses.h"
 #include "core/attitude/saisie_attitude.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/shell/format_image.h"
 #include "shell/saisie.h"
 #include "ui_att_conf_actionneurs.h"

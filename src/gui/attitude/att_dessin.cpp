@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/attitude/attitude_record.h"
+#include "core/etat/attitude_record.h"
 #include "core/shell/format_image.h"
 
 namespace kestrel::gui {

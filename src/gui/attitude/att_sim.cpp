@@ -19,7 +19,7 @@
 
 #include "core/attitude/att_run.h"
 #include "core/attitude/page_resultats.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/shell/messages.h"
 #include "shell/dialogues.h"
 #include "shell/rapport_run.h"

@@ -6,7 +6,7 @@
 #include <QValueAxis>
 
 #include "core/power/rayonnement_terre.h"
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 namespace kestrel::gui {
 

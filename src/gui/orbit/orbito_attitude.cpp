@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 #include "core/attitude/attitude_init.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/saisie_orbite.h"
 #include "orbit/orbito_commun.h"
 #include "shell/dialogues.h"

@@ -1,6 +1,6 @@
 #include "orbit/orbito_envir.h"
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/albedo_sinus.h"
 #include "core/power/rayonnement_terre.h"
 #include "orbit/env_graph1.h"

@@ -7,7 +7,7 @@
 
 #include <fmt/format.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/elements_orbite.h"
 #include "core/project/chemins.h"
 #include "core/project/fichiers_binaires.h"

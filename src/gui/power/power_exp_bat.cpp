@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "power/graphes_batterie.h"
 #include "shell/dialogues.h"
 #include "shell/rapport_run.h"

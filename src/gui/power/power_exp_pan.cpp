@@ -8,7 +8,7 @@
 #include <fstream>
 #include <set>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/textes_generateur.h"
 #include "core/project/trace_graph.h"
 #include "core/shell/format_image.h"

@@ -9,7 +9,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/affichage_sim.h"
 #include "core/power/geometrie_vue.h"
 #include "core/power/ligne_power.h"

@@ -2,7 +2,7 @@
 
 #include <QSignalBlocker>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/catalogues.h"
 #include "project/graphe_conf.h"
 

@@ -2,7 +2,7 @@
 
 #include <QSignalBlocker>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/catalogues.h"
 #include "core/project/saisie_energie.h"
 #include "core/shell/format_image.h"

@@ -1,6 +1,6 @@
 #include "project/conf_gestion.h"
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel::gui {
 

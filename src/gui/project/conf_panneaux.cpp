@@ -5,7 +5,7 @@
 #include <QSignalBlocker>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/saisie_energie.h"
 
 namespace kestrel::gui {

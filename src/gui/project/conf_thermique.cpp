@@ -3,7 +3,7 @@
 #include <QSignalBlocker>
 #include <cmath>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/shell/calendrier.h"
 
 namespace kestrel::gui {

@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/saisie_energie.h"
 #include "shell/saisie.h"
 

@@ -19,7 +19,7 @@
 #include <QWidgetAction>
 #include <array>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/energie.h"
 #include "core/project/fichiers_binaires.h"
 #include "core/shell/calendrier.h"

@@ -3,7 +3,7 @@
 // are entered, so a refusal here names a file line (or the new project).
 #pragma once
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "shell/dialogues.h"
 
 class QWidget;

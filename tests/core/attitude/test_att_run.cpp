@@ -13,7 +13,7 @@
 
 #include "core/attitude/att_run.h"
 #include "core/attitude/resume_attitude.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 namespace {

@@ -10,7 +10,7 @@
 #include <thread>
 
 #include "core/attitude/att_run.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 namespace {

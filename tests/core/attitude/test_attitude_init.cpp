@@ -6,7 +6,7 @@
 
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/pointage_soleil.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel {
 namespace {

@@ -16,7 +16,7 @@
 #include "core/attitude/atmosphere.h"
 #include "core/attitude/attitude_init.h"
 #include "core/attitude/attitude_step.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "tables_essai.h"
 
 namespace kestrel {

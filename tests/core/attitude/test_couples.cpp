@@ -14,7 +14,7 @@
 #include "core/attitude/couple_magnetique.h"
 #include "core/attitude/couple_solaire.h"
 #include "core/attitude/total_torque.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"
 #include "core/orbit/orb_trajecto.h"

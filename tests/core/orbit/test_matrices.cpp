@@ -6,7 +6,7 @@
 #include <cmath>
 #include <vector>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/math/lineaire.h"
 #include "core/orbit/matrices.h"
 

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <vector>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/orb_projection.h"
 
 using namespace kestrel;

@@ -7,7 +7,7 @@
 
 #include "core/power/albedo_sinus.h"
 #include "core/power/rayonnement_terre.h"
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 using namespace kestrel;
 

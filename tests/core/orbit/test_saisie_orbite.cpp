@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/attitude/attitude_init.h"
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/elements_orbite.h"
 #include "core/project/saisie_orbite.h"
 

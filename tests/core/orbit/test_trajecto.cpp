@@ -10,7 +10,7 @@
 #include <tuple>
 #include <vector>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/orbit/orb_trajecto.h"
 
 using namespace kestrel;

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 namespace kestrel::essai {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "core/power/courbes_conf.h"
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 
 using namespace kestrel;
 

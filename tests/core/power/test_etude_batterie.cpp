@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "core/power/etude_batterie.h"
-#include "core/power/power_record.h"
+#include "core/etat/power_record.h"
 #include "outils_power.h"
 
 namespace kestrel {

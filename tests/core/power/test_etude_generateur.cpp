@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/etude_generateur.h"
 #include "core/shell/messages.h"
 #include "outils_power.h"

@@ -4,7 +4,7 @@
 
 #include <tuple>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/power/power_step.h"
 #include "core/power/thermique.h"
 #include "core/power/sim_tick.h"

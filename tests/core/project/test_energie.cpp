@@ -2,7 +2,7 @@
 // reading rules of a hand-edited file, and each failure.
 #include <gtest/gtest.h>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/energie.h"
 #include "core/project/liste_champs.h"
 #include "outils_fichiers.h"

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "core/etat.h"
+#include "core/etat/etat.h"
 #include "core/project/chemins.h"
 #include "core/project/fichiers_binaires.h"
 #include "core/project/liste_champs.h"

@@ -1,4 +1,4 @@
-#include "core/etat.h"
+#include "core/etat/etat.h"
 
 #include "core/orbit/matrices.h"
 #include "core/orbit/orb_projection.h"

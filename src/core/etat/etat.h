@@ -1,9 +1,9 @@
 // Etat: the one context a run works on. The GUI owns one; a test or a command
 // line run makes its own. Every model takes it by reference; nothing global.
 #pragma once
-#include "core/attitude/attitude_record.h"
+#include "core/etat/attitude_record.h"
+#include "core/etat/power_record.h"
 #include "core/orbit/orbite.h"
-#include "core/power/power_record.h"
 #include "core/shell/erreur.h"
 #include "core/shell/session.h"
 
