@@ -135,6 +135,8 @@ TEST(CliBords, DisquePleinSignalePourChaqueSousCommande) {
              {"study generator --end 18707.6 --out /dev/full", 1, "« /dev/full » : " + plein},
              {"exploit power --quiet --var \"Batterie Courant (A)\" --end 18707.6", 1,
               "la sortie standard : " + plein, "/dev/full"},
+             {"sweep power --quiet --end 18707.6 --set cel_np=1,2", 1, "la sortie standard : " + plein, "/dev/full"},
+             {"sweep attitude --quiet --end 18707.6 --set 'md(0)=1' --out /dev/full", 1, "« /dev/full » : " + plein},
              {"project new --att /dev/full", 1, "/dev/full : " + plein},
              {"project new --orb /dev/full", 1, "/dev/full : " + plein},
          })
