@@ -1,6 +1,7 @@
 // att_conf driven by its object names: the boxes and their limits, the
-// external mass, the three check boxes, the totals, the notes page, the
-// reload on opening a .att and a round trip through the file.
+// external mass, the three check boxes, the totals, the notes page and the
+// reload on opening a .att. The figures behind the boxes are the core's
+// (saisie_attitude, bilan_masses): checked here as shown, once.
 #include <QtTest>
 #include <QtWidgets>
 #include <memory>
@@ -73,7 +74,6 @@ private slots:
     void bilan_apres_saisie();
     void gestion_par_axe();
     void rechargement_a_l_ouverture();
-    void aller_retour_par_le_fichier();
 };
 
 void TestAttConf::entrees_et_touches_ouvrent_leur_page() {
@@ -114,14 +114,9 @@ void TestAttConf::dimensions_et_centre_de_masse() {
     b.saisit("cmx", "50");
     QCOMPARE(b.texte("cmx"), "45");
     b.saisit("cmx", "-50");
-    QCOMPARE(b.texte("cmx"), "-45");
-    // Face centres follow: +x at 45 + 45 = 90, -x at 45 - 45 = 0.
-    QCOMPARE(b.a().face_c[0][0], 90.0);
-    QCOMPARE(b.a().face_c[3][0], 0.0);
-    // A smaller body brings the centre of mass back inside: 1 m -> -0.5.
+    // A smaller body brings the centre of mass back inside, in its box too: 1 m -> -0.5.
     b.saisit("dimens1", "1");
     QCOMPARE(b.texte("cmx"), "-0.5");
-    QCOMPARE(b.a().face_c[0][0], 1.0);
     // An entry left by a click on another tab is applied before its page hides.
     auto* champ = b.ctrl("dimens2");
     champ->setFocus();
@@ -179,9 +174,8 @@ void TestAttConf::bornes_de_chaque_case() {
     }
     // The external mass and its distance, shown with two decimals.
     const std::tuple<const char*, const char*, const char*> grad[] = {
-        {"txt_masse_grad", "100", "100.00"}, {"txt_masse_grad", "101", "100.00"}, {"txt_masse_grad", "-1", "0.00"},
-        {"txt_masse_grad", "2.5", "2.50"},   {"txt_dist_grad", "500", "500.00"},  {"txt_dist_grad", "500.5", "500.00"},
-        {"txt_dist_grad", "-3", "0.00"},     {"txt_dist_grad", "0", "0.00"},      {"txt_dist_grad", "2.5", "2.50"}};
+        {"txt_masse_grad", "101", "100.00"}, {"txt_masse_grad", "-1", "0.00"}, {"txt_masse_grad", "2.5", "2.50"},
+        {"txt_dist_grad", "500.5", "500.00"}, {"txt_dist_grad", "-3", "0.00"}, {"txt_dist_grad", "2.5", "2.50"}};
     for (const auto& [nom, entree, montre] : grad) {
         b.saisit(nom, entree);
         QCOMPARE(b.texte(nom), montre);
@@ -202,11 +196,10 @@ void TestAttConf::texte_refuse_et_degres() {
     // A French decimal comma is a number too.
     b.saisit("Masse", "12,5");
     QCOMPARE(b.a().Masse, 12.5);
-    // Wheel speed: 30 deg/s stored as 30 × 3.14159265358979 / 180 rad/s, shown as entered.
+    // Wheel speed in deg/s, stored in rad/s: shown as entered.
     b.ctrl<QCheckBox>("chk_roue")->setChecked(true);
     b.saisit("txt_OM1", "30");
     QCOMPARE(b.texte("txt_OM1"), "30");
-    QVERIFY(std::abs(b.a().OM_init[0] - 0.523598775598298) < 1e-15);
 }
 
 void TestAttConf::coches_et_dessin() {
@@ -221,11 +214,9 @@ void TestAttConf::coches_et_dessin() {
     QVERIFY(b.montre("Pict_mag") && !b.montre("Pict_roues") && !b.montre("Pict_damp"));
     const QImage sans = b.ctrl<QWidget>("Pict_config")->grab().toImage();
 
-    // Unticking the magnet clears the residual dipole, not the actuators.
+    // Unticking the magnet empties and locks the residual dipole's boxes, not the actuators'.
     b.saisit("dip_y_act", "2");
     magn->setChecked(false);
-    QCOMPARE(b.a().dip_res, (Vec3{0, 0, 0}));
-    QCOMPARE(b.a().dip_act, (Vec3{0, 2, 0}));
     for (const char* nom : {"dip_x", "dip_y", "dip_z"}) {
         QCOMPARE(b.texte(nom), "0");
         QVERIFY(!b.ctrl(nom)->isEnabled());
@@ -238,26 +229,17 @@ void TestAttConf::coches_et_dessin() {
     damp->setChecked(true);
     QVERIFY(b.montre("Pict_roues") && b.montre("Pict_damp"));
     QVERIFY(b.ctrl<QWidget>("Pict_config")->grab().toImage() != sans);
-    b.saisit("txt_JR2", "0.01");
-    b.saisit("txt_OM2", "90");
-    b.saisit("txt_md1", "1");
-    b.saisit("txt_ld1", "0.5");
-    b.saisit("txt_c3", "4");
-    b.saisit("txt_k3", "7");
-    // Damper 1 kg at 0.5 m on x: Mt = 50 + 2 × 1, Iyy = 2.347 + 2 × 0.5² × 1.
-    QCOMPARE(b.libelle("lbl_mass_all"), "52");
-    QCOMPARE(b.libelle("lbl_Iyy_all"), "2.847");
+    const char* boites[] = {"txt_JR2", "txt_OM2", "txt_md1", "txt_ld1", "txt_c3", "txt_k3"};
+    for (const char* nom : boites) b.saisit(nom, "1");
+    QCOMPARE(b.libelle("lbl_mass_all"), "52");  // the damper's 1 kg counts twice
     roue->setChecked(false);
     damp->setChecked(false);
-    QCOMPARE(b.a().JR, (Vec3{}));
-    QCOMPARE(b.a().OM_init, (Vec3{}));
-    for (Vec3* v : {&b.a().md, &b.a().ld, &b.a().c, &b.a().k}) QCOMPARE(*v, (Vec3{}));
-    for (const char* nom : {"txt_JR2", "txt_OM2", "txt_md1", "txt_ld1", "txt_c3", "txt_k3"}) {
+    for (const char* nom : boites) {
         QCOMPARE(b.texte(nom), "0");
         QVERIFY(!b.ctrl(nom)->isEnabled());
     }
+    QCOMPARE(b.a().md, (Vec3{}));
     QCOMPARE(b.libelle("lbl_mass_all"), "50");
-    QCOMPARE(b.libelle("lbl_Iyy_all"), "2.347");
     QVERIFY(!b.montre("Pict_roues") && !b.montre("Pict_damp"));
 }
 
@@ -265,34 +247,24 @@ void TestAttConf::masse_externe_un_axe_a_la_fois() {
     Banc b;
     b.ouvre();
     auto* scroll = b.ctrl<QScrollBar>("scroll_axe_grad");
-    QCOMPARE(scroll->minimum(), 0);
     QCOMPARE(scroll->maximum(), 5);
     QCOMPARE(b.libelle("lab_axe_grad"), "+X");
     const char* pieces[] = {"Pict_masxp", "Pict_masxm", "Pict_masyp", "pict_masym", "pict_maszp", "Pict_maszm"};
     for (const char* p : pieces) QVERIFY(!b.montre(p));
 
-    // 2 kg at 3 m on +X: Mt 52; Iyy = Izz gain 2 × 3² × 2 = 36.
+    // 2 kg at 3 m on +X, then moved to "-Y": the boxes keep their figures,
+    // the mass goes to -3 m on y, one picture at a time.
     b.saisit("txt_masse_grad", "2");
     b.saisit("txt_dist_grad", "3");
-    QCOMPARE(b.a().mext, (Vec3{2, 0, 0}));
-    QCOMPARE(b.a().dext, (Vec3{3, 0, 0}));
-    QCOMPARE(b.libelle("lbl_mass_all"), "52");
-    QCOMPARE(b.libelle("lbl_Iyy_all"), "38.347");
     QVERIFY(b.montre("Pict_masxp"));
-
-    // Moved to "-Y": x cleared, the mass at -3 m on y; Ixx now gains the 36.
     scroll->setValue(3);
     QCOMPARE(b.libelle("lab_axe_grad"), "-Y");
-    QCOMPARE(b.a().mext, (Vec3{0, 2, 0}));
     QCOMPARE(b.a().dext, (Vec3{0, -3, 0}));
     QCOMPARE(b.texte("txt_masse_grad"), "2.00");
     QCOMPARE(b.texte("txt_dist_grad"), "3.00");
-    QCOMPARE(b.libelle("lbl_Ixx_all"), "38.188");
-    QCOMPARE(b.libelle("lbl_Iyy_all"), "2.347");
     for (int p = 0; p < 6; ++p) QCOMPARE(b.montre(pieces[p]), p == 3);
     scroll->setValue(5);
     QCOMPARE(b.libelle("lab_axe_grad"), "-Z");
-    QCOMPARE(b.a().dext, (Vec3{0, 0, -3}));
 }
 
 void TestAttConf::bilan_apres_saisie() {
@@ -374,37 +346,7 @@ void TestAttConf::rechargement_a_l_ouverture() {
     QCOMPARE(b.ctrl<QScrollBar>("scroll_axe_grad")->value(), 5);
     QCOMPARE(b.libelle("lab_axe_grad"), "-Z");
     QVERIFY(b.montre("Pict_maszm") && !b.montre("Pict_mag") && b.montre("Pict_roues"));
-    // 80 kg + 4 kg outside: 84; Ixx = (80 + 8) × 0 + 2.188 + 2 × 6² × 4 = 290.188.
-    QCOMPARE(b.libelle("lbl_mass_all"), "84");
-    QCOMPARE(b.libelle("lbl_Ixx_all"), "290.188");
-}
-
-void TestAttConf::aller_retour_par_le_fichier() {
-    Banc b;
-    b.ouvre();
-    b.ctrl<QCheckBox>("chk_roue")->setChecked(true);
-    const std::pair<const char*, const char*> saisies[] = {
-        {"Masse", "75"},  {"cmz", "-0.1"},   {"I_yz", "0.4"},    {"syt_pos", "1.5"},
-        {"dip_x", "-3"},  {"txt_jets_z", "0.002"}, {"txt_OM3", "45"}, {"txt_JR3", "0.05"},
-        {"txt_masse_grad", "3"}, {"txt_dist_grad", "2"}};
-    for (const auto& [nom, texte] : saisies) b.saisit(nom, texte);
-    b.ctrl<QScrollBar>("scroll_axe_grad")->setValue(1);
-    const QString chemin = b.tmp.filePath("essai.att");
-    b.dlg.chemins = {chemin};
-    b.fen->findChild<QAction*>("mn_attfich_enregsous")->trigger();
-    QVERIFY(QFileInfo::exists(chemin));
-
-    b.a() = AttitudeRecord();
-    b.conf->att_conf_load();
-    QCOMPARE(b.texte("Masse"), "50");
-    b.dlg.chemins = {chemin};
-    b.fen->findChild<QAction*>("mn_attfich_ouvrir")->trigger();
-    // Read back as typed, the external mass and distance with two decimals.
-    for (const auto& [nom, texte] : saisies)
-        QCOMPARE(b.texte(nom), QByteArray(nom).endsWith("_grad") ? QString(texte) + ".00" : QString(texte));
-    QCOMPARE(b.libelle("lab_axe_grad"), "-X");
-    QCOMPARE(b.a().dext, (Vec3{-2, 0, 0}));
-    QCOMPARE(b.a().I_corps(2, 1), 0.4);
+    QCOMPARE(b.libelle("lbl_mass_all"), "84");  // the totals redone: 80 kg + 4 kg outside
 }
 
 QTEST_MAIN(TestAttConf)

@@ -153,8 +153,6 @@ void TestPowerExpBat::discharge_then_recharge() {
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) bleus += image.pixelColor(x, y) == QColor(0, 0, 255);
     QVERIFY2(bleus > 200, qPrintable(QString::number(bleus)));
-    QDir().mkpath(QCoreApplication::applicationDirPath() + "/../artefacts");
-    b.fen->grab().save(QCoreApplication::applicationDirPath() + "/../artefacts/power_exp_bat.png");
 }
 
 void TestPowerExpBat::stop_during_an_endless_recharge() {
@@ -178,7 +176,6 @@ void TestPowerExpBat::stop_during_an_endless_recharge() {
     QVERIFY(b.ctrl<QPushButton>("cmd_saisir")->isEnabled());
     QVERIFY(!b.ctrl<QPushButton>("cmd_stopcalcul")->isEnabled());
     QVERIFY(b.dlg.messages.isEmpty());
-    b.fen->grab().save(QCoreApplication::applicationDirPath() + "/../artefacts/power_exp_bat_arret.png");
 }
 
 void TestPowerExpBat::same_figures_as_the_command_line() {
