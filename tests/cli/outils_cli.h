@@ -73,12 +73,14 @@ struct Attendu {
     std::string arguments;
     int code;
     std::string message;  // a part of stderr
+    std::string sortie = "";  // where standard output goes (e.g. /dev/full); empty: captured
 };
 
 // The run ends with its code and one message on one line, bounded in time: a
 // run that would wait forever is ended after 20 s (exit 124).
 inline void verifie_une_ligne(const Attendu& a) {
-    const Resultat r = lance(std::string("20 \"") + KESTREL_EXE + "\" " + a.arguments, "timeout");
+    const std::string commande = std::string("20 \"") + KESTREL_EXE + "\" " + a.arguments;
+    const Resultat r = a.sortie.empty() ? lance(commande, "timeout") : lance_vers(commande, a.sortie, "timeout");
     EXPECT_EQ(r.code, a.code) << a.arguments << "\n" << r.err;
     EXPECT_NE(r.err.find(a.message), std::string::npos) << a.arguments << "\n" << r.err;
     const auto m = r.err.find("kestrel: ");

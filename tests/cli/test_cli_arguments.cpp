@@ -37,22 +37,6 @@ TEST(CliArguments, UneLigneFrancaiseParFaute) {
     }
 }
 
-// (--spin nan, --pointing nan,0,0 for power: with the other edge cases)
-TEST(CliArguments, NombresNonFinisEtPasNulRefusesALaLecture) {
-    const std::string fini = " : un nombre fini est attendu";
-    for (const Attendu& a : std::initializer_list<Attendu>{
-             {"attitude --pointing 0,nan,0", 2, "--pointing : « nan »" + fini},
-             {"attitude --every inf", 2, "--every : « inf »" + fini},
-             // every real-valued option, including those of the studies
-             {"study battery --tecl nan", 2, "--tecl : « nan »" + fini},
-             {"study battery --k -inf", 2, "--k : « -inf »" + fini},
-             {"exploit power --var x --max nan", 2, "--max : « nan »" + fini},
-             {"power --step 0", 2, "Pas de simulation refusé : 0 s (option --step)"},
-             {"power --step 1e300", 2, "Pas de simulation refusé : 1e+300 s (option --step)"},
-         })
-        verifie_une_ligne(a);
-}
-
 TEST(CliArguments, CaracteresDeControleEchappesEtValeursCoupees) {
     // ESC and a bell in an option's value are shown as \x1b and \x07
     verifie_une_ligne({"orbit --format \"$(printf 'a\\033[31mb\\007')\"", 2, "« a\\x1b[31mb\\x07 »"});

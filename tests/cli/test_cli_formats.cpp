@@ -90,9 +90,3 @@ TEST(CliFormats, DocumentCzml) {
     EXPECT_NEAR(Z, 1000.0 * z, 1e-6);
     EXPECT_NEAR(std::atan2(Y, X), std::stod(premier[12]), 1e-12);
 }
-
-TEST(CliFormats, FormatInconnu) {
-    const Resultat r = lance("orbit --format kml");
-    EXPECT_EQ(r.code, 2);
-    EXPECT_TRUE(r.out.empty());
-}

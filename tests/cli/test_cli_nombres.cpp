@@ -75,32 +75,25 @@ TEST(Nombres, TexteLePlusCourt) {
     } cas[] = {
         {0.0, "0"},
         {-0.0, "-0"},
-        {1.0, "1"},
         {-7.0, "-7"},
-        {20.0, "20"},
         {9999.0, "9999"},
-        {-9999.0, "-9999"},
         {10000.0, "10000"},        // "1e+04" is as long: fixed wins the tie
         {15300.0, "15300"},
         {100000.0, "1e+05"},       // 5 characters against 6
         {123456789.0, "123456789"},
         {0.1, "0.1"},              // nearest double to 1/10, not 0.10000000000000001
-        {0.5, "0.5"},
-        {-2.5, "-2.5"},
+        {-0.25, "-0.25"},
         {1e-7, "1e-07"},
         {0.001, "0.001"},
         {1.0 / 3.0, "0.3333333333333333"},  // 16 digits: the 17th is not needed
-        {2.0 / 3.0, "0.6666666666666666"},
         {5e-324, "5e-324"},        // smallest subnormal
         {1.7976931348623157e308, "1.7976931348623157e+308"},
         {static_cast<double>(0.2f), "0.20000000298023224"},  // the float widened keeps its value
-        {9999.5, "9999.5"},
-        {-0.25, "-0.25"},
     };
     for (const auto& c : cas) EXPECT_EQ(texte_nombre(c.x), c.texte) << c.texte;
 }
 
-TEST(Nombres, SortieEcritDansLeFichier) {
+TEST(Nombres, SortieEcritDansLeFichierEnPlusieursBlocs) {
     const fs::path f = dossier_vide("nombres") / "n.csv";
     {
         kestrel::cli::Sortie s(f.string());
@@ -109,30 +102,22 @@ TEST(Nombres, SortieEcritDansLeFichier) {
         s.nombre(0.1) << ',';
         s.nombre(-0.0) << ',';
         s.entier(-42) << '\n';
-        // more than the buffer holds: written in several blocks, in order
+        // a line of 5000 values, more than one buffer's worth, then more
+        // lines than the buffer holds: written in several blocks, in order
+        s.ligne(std::vector<double>(5000, 0.25)).ligne(std::vector<double>{1e-7, -3.0});
         for (int i = 0; i < 20000; ++i) s.nombre(1.5) << '\n';
         EXPECT_TRUE(s.ferme());
     }
     const std::string t = lit_fichier(f);
-    EXPECT_EQ(t.substr(0, 15), "a,b\n0.1,-0,-42\n");
-    EXPECT_EQ(t.size(), 4u + 11u + 20000u * 4u);  // "a,b\n", "0.1,-0,-42\n", then "1.5\n" each
-}
-
-TEST(Nombres, LigneLongueEnPlusieursBlocs) {
-    // 5000 values: more than one buffer's worth of widest numbers
-    const std::vector<double> v(5000, 0.25);
-    const fs::path f = dossier_vide("nombres") / "l.csv";
-    {
-        kestrel::cli::Sortie s(f.string());
-        s.ligne(v).ligne(std::vector<double>{1e-7, -3.0});
-        ASSERT_TRUE(s.ferme());
-    }
-    const auto ls = lignes(lit_fichier(f));
-    ASSERT_EQ(ls.size(), 2u);
-    const auto c = champs(ls[0]);
-    ASSERT_EQ(c.size(), 5000u);
-    for (const std::string& x : c) ASSERT_EQ(x, "0.25");
-    EXPECT_EQ(ls[1], "1e-07,-3");
+    EXPECT_EQ(t.back(), '\n');
+    const auto ls = lignes(t);
+    ASSERT_EQ(ls.size(), 2u + 2u + 20000u);
+    EXPECT_EQ(ls[0] + ls[1], "a,b0.1,-0,-42");
+    std::string quarts = "0.25";
+    for (int i = 1; i < 5000; ++i) quarts += ",0.25";
+    EXPECT_EQ(ls[2], quarts);
+    EXPECT_EQ(ls[3], "1e-07,-3");
+    for (std::size_t i = 4; i < ls.size(); ++i) ASSERT_EQ(ls[i], "1.5") << i;
 }
 
 // Reference: the same runs written before with 17 significant digits, every

@@ -81,14 +81,6 @@ TEST(CliUnites, StudyAndSweepHeaders) {
     EXPECT_EQ(lignes(a0.out)[0], "case,\"I_corps(0,0)\",steps,max_rate,roll,pitch,yaw,fault");
 }
 
-TEST(CliPower, SummaryOfTheExampleWithExternalPanels) {
-    const Resultat r = lance("power --pwr \"" KESTREL_SOURCE_DIR "/examples/panneaux_externes.pwr\" --summary");
-    ASSERT_EQ(r.code, 0) << r.err;
-    EXPECT_NE(r.out.find("Fraction en éclipse"), std::string::npos) << r.out;
-    EXPECT_NE(r.out.find("Puissance générateur"), std::string::npos) << r.out;
-    EXPECT_EQ(r.out.find("date,"), std::string::npos);
-}
-
 TEST(CliPower, CellsDateAndArgumentsRefused) {
     // "Date initiale cellules" of a new project: day 17897
     const Resultat r = lance("power --start 17897 --end 17898");

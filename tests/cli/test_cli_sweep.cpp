@@ -104,7 +104,6 @@ TEST(CliSweep, BadFieldsValuesAndSlicesRefusedBeforeAnyCase) {
     const Cas cas[] = {
         {"--set cel_nq=1,2", "champ inconnu « cel_nq »"},
         {"--set cel_np=10 --set orb_inclinaison=0,181", "hors des limites [-180, 180]"},
-        {"--set bat_type=0,0.5", "entier"},
         {"--set cel_np", "CHAMP=valeurs"},
         {"--set cel_np=1:2", "début:fin:nombre"},
         {"--set cel_np=1 --cases 4:3", "--cases"},

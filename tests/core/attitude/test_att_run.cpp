@@ -138,21 +138,14 @@ TEST(AttRun, ColonnesDesRoues) {
     EXPECT_NEAR(std::stod(r[1]), 0.01 * 180 / 3.14159265358979, 1e-12);
 }
 
-TEST(AttRun, EchecsNommes) {
-    // missing tables are named
-    Etat e = etat_run();
-    e.session.dossier_depart = "/nonexistent-kestrel-folder";
-    Issue b = lance(e);
-    EXPECT_EQ(b.erreur.code, CodeErreur::fichier_donnees);
-    EXPECT_NE(texte_erreur(b.erreur).find("flux_solaire.txt"), std::string::npos);
-    fs::remove(FICHIER);
+TEST(AttRun, ArretSurValeurNonFinie) {
     // a damper with a zero total mass divides by zero at the first step: the
     // run stops and keeps the file with its head and the initial record
-    e = etat_run();
+    Etat e = etat_run();
     e.att.md = {0.1, 0, 0};
     e.att.Mt = 0;
     e.att.omega_init = {0.1, 0.1, 0.1, 0, 0, 0};
-    b = lance(e);
+    const Issue b = lance(e);
     EXPECT_EQ(b.erreur.code, CodeErreur::valeur_non_finie);
     EXPECT_EQ(b.erreur.date, 18000.0);
     EXPECT_EQ(lit().lignes.size(), 6u);
@@ -191,10 +184,6 @@ TEST(AttRun, ArretAvantUnPasDePlusDeDeuxRadians) {
     EXPECT_EQ(b.erreur.pas, 10.0);
     EXPECT_EQ(b.enregistrements, 2);
     EXPECT_EQ(lit().lignes.size(), 5u + 2u);
-    // day 18000 is 14 April 1999; the second step starts 10 s into it
-    EXPECT_NE(texte_erreur(b.erreur).find("rad/s à la date 14/04/1999 00:00:10 (jour 18000.000116), soit "),
-              std::string::npos)
-        << texte_erreur(b.erreur);
 }
 
 TEST(AttRun, TeteNonFinieRienNEstEcrit) {

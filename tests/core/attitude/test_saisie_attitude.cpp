@@ -83,8 +83,8 @@ TEST(SaisieAttitude, TexteDesCases) {
 }
 
 TEST(MasseExterne, UnSeulAxeALaFois) {
-    // 2 kg at 3 m on -Y: Mt = 50 + 2; I(0,0) = 2.188 + 2·3²·2 = 38.188,
-    // I(2,2) = 2.541 + 36 = 38.541, I(1,1) untouched.
+    // 2 kg at 3 m on -Y: Mt = 50 + 2; I(0,0) = 2.188 + 2·3²·2 = 38.188 (the
+    // other axes are the mass balance test's).
     AttitudeRecord a;
     a.mext = {1, 0, 0};
     a.dext = {4, 0, 0};
@@ -93,8 +93,6 @@ TEST(MasseExterne, UnSeulAxeALaFois) {
     EXPECT_EQ(a.dext, (Vec3{0, -3, 0}));
     EXPECT_DOUBLE_EQ(a.Mt, 52.0);
     EXPECT_DOUBLE_EQ(a.I(0, 0), 38.188);
-    EXPECT_DOUBLE_EQ(a.I(1, 1), 2.347);
-    EXPECT_DOUBLE_EQ(a.I(2, 2), 38.541);
 
     // Moved to +Z: the mass and the distance go along, y is cleared.
     place_masse_externe(a, 4, masse_externe(a, 3));

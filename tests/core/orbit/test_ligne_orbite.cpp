@@ -33,7 +33,6 @@ TEST(LigneOrbite, ColonnesDansLOrdre) {
     o.eclipse = FAUX;
     ligne_orbite(18000.5, o, v);
     EXPECT_EQ(v[10], 0.0);
-    EXPECT_EQ(std::string(COLONNES_ORBITE[10]), "eclipse");
 }
 
 TEST(LigneOrbite, PremiereColonneNonFinieNommee) {
@@ -42,7 +41,6 @@ TEST(LigneOrbite, PremiereColonneNonFinieNommee) {
         const char* colonne;
     } cas[] = {
         {[](SortiesOrbite& o) { o.sat_pos[2] = NAN; }, "sat_z"},
-        {[](SortiesOrbite& o) { o.soleil_pos[0] = INFINITY; }, "sun_x"},
         // both wrong: the first in column order is named
         {[](SortiesOrbite& o) { o.sat_alt = NAN, o.sat_vit[1] = -INFINITY; }, "vit_y"},
         {[](SortiesOrbite& o) { o.sat_alt = NAN; }, "alt"},

@@ -44,13 +44,20 @@ TEST(PowerStateInit, ResetsOnlyWhatItNames) {
                     {"heat", p.p_heat, 7.0, 0}, {"target", p.pan_target, 0.5, 0}, {"T0", p.node_t[0], 298.15, 1e-12},
                     {"T8", p.node_t[NOEUDS_PANNEAUX.interne], 298.15, 1e-12}, {"T1", p.node_t[1], 123.0, 0},
                     {"T20", p.node_t[20], 456.0, 0}});
-    essai::pose_faces(p, 2);
+    // fac_t_init = {10, 20, 30} °C on walls, top, bottom; int_t_init 40 °C, on
+    // the layout's nodes only: the cylinder's 36 strips then 36, 37, 38; six
+    // faces 0..5 then 8, 9, 10, and nodes 6, 7 and from 11 on left alone
     p.fac_t_init = {10, 20, 30};
     p.int_t_init = 40;
-    power_state_init(e);
-    essai::verifie({{"T20", p.node_t[20], 283.15, 1e-12}, {"top", p.node_t[NOEUDS_CYLINDRE.haut], 293.15, 1e-12},
-                    {"bottom", p.node_t[NOEUDS_CYLINDRE.bas], 303.15, 1e-12},
-                    {"internal", p.node_t[NOEUDS_CYLINDRE.interne], 313.15, 1e-12}});
+    for (auto [faces, murs, haut] : {std::tuple{2, 36, 36}, {1, 6, 8}}) {
+        essai::pose_faces(p, faces);
+        p.node_t.fill(-1.0);
+        power_state_init(e);
+        for (int i = 0; i < murs; ++i) EXPECT_NEAR(p.node_t[i], 283.15, 1e-12) << i;
+        essai::verifie({{"top", p.node_t[haut], 293.15, 1e-12}, {"bottom", p.node_t[haut + 1], 303.15, 1e-12},
+                        {"internal", p.node_t[haut + 2], 313.15, 1e-12}});
+    }
+    for (int i : {6, 7, 11, 38}) EXPECT_EQ(p.node_t[i], -1.0) << i;
 }
 
 TEST(PowerStep, ConfigurationTests) {
@@ -128,7 +135,6 @@ TEST(PowerStep, NonFiniteValueIsNamed) {
         EXPECT_EQ(std::tuple(e.faute.code, e.faute.detail, e.faute.date),
                   std::tuple(CodeErreur::valeur_non_finie, std::string(c.nom), 18000.25));
     }
-    EXPECT_EQ(COLONNES_POWER, 133u);
 }
 
 }  // namespace

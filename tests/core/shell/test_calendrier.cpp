@@ -57,7 +57,3 @@ TEST(Calendrier, AvantMilNeufCent) {
     jour_vers_date(-18627.0, d);
     EXPECT_EQ(amj(d), std::tuple(1899, 1, 1));
 }
-
-TEST(Calendrier, Texte) {
-    EXPECT_EQ(date_vers_texte(fait(2001, 3, 5, 7, 8, 9)), "05/03/2001 07:08:09");
-}
