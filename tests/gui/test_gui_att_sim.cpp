@@ -16,27 +16,33 @@ QLineSeries* serie(att_sim& f, const char* graphe, int i) {
     auto* v = f.findChild<QChartView*>(graphe);
     return static_cast<QLineSeries*>(v->chart()->series().at(i));
 }
-// A data folder of its own, with the atmosphere tables, for its own results file.
-bool avec_tables(const QTemporaryDir& dossier) {
-    for (const char* f : {"flux_solaire.txt", "densite.txt"})
-        if (!QFile::copy(QCoreApplication::applicationDirPath() + "/" + f, dossier.filePath(f))) return false;
-    return true;
-}
+// A run of the given step and length in a data folder of its own, with the
+// atmosphere tables, for its own results file; the window made when asked.
+struct Banc {
+    QTemporaryDir dossier;
+    Etat etat;
+    FauxDialogues dlg;
+    std::unique_ptr<att_sim> f;
+    Banc(int pas, double secondes) {
+        for (const char* n : {"flux_solaire.txt", "densite.txt"})
+            if (!QFile::copy(QCoreApplication::applicationDirPath() + "/" + n, dossier.filePath(n))) qFatal("no %s", n);
+        etat.session.dossier_depart = dossier.path().toStdString();
+        etat.session.pas_sim = pas;
+        etat.session.j_fin = etat.session.j_debut + secondes / 86400.0;
+    }
+    att_sim& fen() {
+        if (!f) f = std::make_unique<att_sim>(etat, dlg);
+        return *f;
+    }
+};
 }  // namespace
 
 class TestAttSim : public QObject {
     Q_OBJECT
 private slots:
     void pages_du_fichier() {
-        // its own data folder, with the atmosphere tables, for its own results file
-        QTemporaryDir dossier;
-        QVERIFY(avec_tables(dossier));
-        Etat etat;
-        etat.session.dossier_depart = dossier.path().toStdString();
-        etat.session.pas_sim = 1;
-        etat.session.j_fin = etat.session.j_debut + 1500 / 86400.0;
-        FauxDialogues dlg;
-        att_sim f(etat, dlg);
+        Banc b(1, 1500);
+        att_sim& f = b.fen();
         f.show();
         QVERIFY(QTest::qWaitForWindowExposed(&f));
         auto* psi = f.findChild<QLineEdit*>("txt_psi");
@@ -44,11 +50,11 @@ private slots:
         psi->selectAll();
         QTest::keyClicks(psi, "0.5");
         QTest::keyClick(psi, Qt::Key_Return);
-        QCOMPARE(etat.att.omega_init[0], 0.5 * 3.14159265358979 / 180);
+        QCOMPARE(b.etat.att.omega_init[0], 0.5 * 3.14159265358979 / 180);
 
         f.att_run();
-        QVERIFY(dlg.messages.isEmpty());
-        QCOMPARE(f.fichier_temp(), dossier.filePath("temp/temp.tmp"));
+        QVERIFY(b.dlg.messages.isEmpty());
+        QCOMPARE(f.fichier_temp(), b.dossier.filePath("temp/temp.tmp"));
         QVERIFY(!f.findChild<QProgressBar*>("temp_calcul")->isVisible());
         // 1500 steps: Round(1.5 + 1) = 2 pages, scroll up to Round(1.5 / 2) = 1
         QCOMPARE(f.pages(), 2);
@@ -67,7 +73,7 @@ private slots:
 
         // the run's file is not the one the question names: nothing asked, file kept
         QTest::mouseClick(f.findChild<QPushButton*>("Quit_but"), Qt::LeftButton);
-        QVERIFY(dlg.questions.isEmpty());
+        QVERIFY(b.dlg.questions.isEmpty());
         QVERIFY(QFile::exists(f.fichier_temp()));
     }
 
@@ -75,26 +81,20 @@ private slots:
     // question names (data folder + "/kestrel/temp/temp.tmp"): asked with Yes
     // and No only, then the file is deleted whatever the answer.
     void question_puis_effacement() {
-        QTemporaryDir dossier;
-        QVERIFY(avec_tables(dossier));
+        Banc b(60, 864);
         // a plain file named temp: the data folder cannot take the results
-        QFile bouche(dossier.filePath("temp"));
+        QFile bouche(b.dossier.filePath("temp"));
         QVERIFY(bouche.open(QIODevice::WriteOnly));
         bouche.close();
-        qputenv("XDG_DATA_HOME", dossier.path().toLocal8Bit());
-        Etat etat;
-        etat.session.dossier_depart = dossier.path().toStdString();
-        etat.session.pas_sim = 60;
-        etat.session.j_fin = etat.session.j_debut + 0.01;
-        FauxDialogues dlg;
-        dlg.reponses.push_back(Reponse::oui);
-        att_sim f(etat, dlg);
+        qputenv("XDG_DATA_HOME", b.dossier.path().toLocal8Bit());
+        b.dlg.reponses.push_back(Reponse::oui);
+        att_sim& f = b.fen();
         f.att_run();
-        QCOMPARE(f.fichier_temp(), dossier.filePath("kestrel/temp/temp.tmp"));
+        QCOMPARE(f.fichier_temp(), b.dossier.filePath("kestrel/temp/temp.tmp"));
         QVERIFY(QFile::exists(f.fichier_temp()));
         QTest::mouseClick(f.findChild<QPushButton*>("Quit_but"), Qt::LeftButton);
-        QCOMPARE(dlg.questions, QList<QString>{QStringLiteral("KESTREL|") + QString::fromUtf8("Voulez-vouz enregistrez les résultat?")});
-        QCOMPARE(dlg.boutons, QList<Boutons>{Boutons::oui_non});
+        QCOMPARE(b.dlg.questions, QList<QString>{QStringLiteral("KESTREL|") + QString::fromUtf8("Voulez-vouz enregistrez les résultat?")});
+        QCOMPARE(b.dlg.boutons, QList<Boutons>{Boutons::oui_non});
         QVERIFY(!QFile::exists(f.fichier_temp()));
         qunsetenv("XDG_DATA_HOME");
     }
@@ -103,20 +103,14 @@ private slots:
     // ends on its fault with a critical French box, and the head lines and the
     // rows written before stay in the file and on the charts.
     void fin_sur_faute() {
-        QTemporaryDir dossier;
-        QVERIFY(avec_tables(dossier));
-        Etat etat;
-        etat.session.dossier_depart = dossier.path().toStdString();
-        etat.session.pas_sim = 1;
-        etat.session.j_fin = etat.session.j_debut + 0.05;
-        FauxDialogues dlg;
-        att_sim f(etat, dlg);
-        etat.att.omega_init = {1e3, 1e3, 1e3};
+        Banc b(1, 4320);
+        att_sim& f = b.fen();
+        b.etat.att.omega_init = {1e3, 1e3, 1e3};
         f.att_run();
-        QCOMPARE(dlg.messages.size(), 1);
-        QCOMPARE(dlg.messages[0].icone, Icone::critique);
-        QVERIFY(!dlg.messages[0].texte.isEmpty());
-        QVERIFY(!dlg.messages[0].texte.contains(QStringLiteral("inf")));
+        QCOMPARE(b.dlg.messages.size(), 1);
+        QCOMPARE(b.dlg.messages[0].icone, Icone::critique);
+        QVERIFY(!b.dlg.messages[0].texte.isEmpty());
+        QVERIFY(!b.dlg.messages[0].texte.contains(QStringLiteral("inf")));
         QFile r(f.fichier_temp());
         QVERIFY(r.open(QIODevice::ReadOnly));
         const QStringList lignes = QString::fromUtf8(r.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);

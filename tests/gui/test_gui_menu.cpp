@@ -355,11 +355,9 @@ void TestMenu::enregistre_puis_ouvre() {
     QCOMPARE(b.texte("fra_attitude"), "Contrôle d'attitude (sat)");
     QCOMPARE(b.fen->windowTitle(), "Energie (essai)");
     b.etat.att.Masse = 10.0;
-    b.s().config_modifiee = 0;
     b.declenche("mn_attfich_ouvrir", {att});
     QCOMPARE(b.etat.att.Masse, 73.5);
     QCOMPARE(QString::fromStdString(b.s().chemin_attitude), att);
-    QCOMPARE(b.s().config_modifiee, int16_t{1});
 
     // Titles and proposed names drop the last four characters whatever they
     // are: "sauvegarde.v2" less "e.v2" is "sauvegard".

@@ -77,18 +77,15 @@ QList<QStringList> ligne_de_commande(const QStringList& args) {
 class TestPowerExpPan : public QObject {
     Q_OBJECT
 private slots:
-    void captions_and_the_date_test();
+    void the_date_and_step_tests();
     void columns_by_configuration_and_view();
     void graph_of_six_columns_at_a_time();
     void stop_and_save();
     void grid_equals_the_command_line();
 };
 
-void TestPowerExpPan::captions_and_the_date_test() {
+void TestPowerExpPan::the_date_and_step_tests() {
     Banc b;
-    QCOMPARE(b.fen->windowTitle(), "Simulation panneaux solaires");
-    QCOMPARE(b.ctrl<QPushButton>("cmd_temperature")->text(), "Température");
-
     // A start equal to "Date initiale cellules" is refused: the test is strict.
     b.etat.session.j_debut = b.etat.pwr.date_cell;
     b.clique("cmd_saisir");
