@@ -165,7 +165,7 @@ TEST(BatteryStudy, ProgressStopAndTheCapOfAnEndlessRecharge) {
     r = etude_batterie(p, e);
     EXPECT_FALSE(r.termine);
     EXPECT_EQ(r.faute.code, CodeErreur::recharge_trop_longue);
-    EXPECT_EQ(r.temps_recharge, PLAFOND_RECHARGE);
+    EXPECT_EQ(r.temps_recharge, 10000000);  // 2777 h 46 min 40 s
     EXPECT_NE(texte_erreur(r.faute).find("2777:46:40"), std::string::npos) << texte_erreur(r.faute);
 }
 
