@@ -2,7 +2,6 @@
 // step, real-time mode, project open/save and the end of the program.
 #include <QtTest>
 #include <QtWidgets>
-#include <algorithm>
 #include <memory>
 
 #include "core/etat/etat.h"
@@ -165,7 +164,7 @@ void TestMenu::periode_pas_temps_reel_et_dates() {
 
 void TestMenu::entrees_et_touches() {
     Banc b;
-    // Commands of this window work; label entries and windows not built yet are off.
+    // Commands of this window work; label entries are off.
     for (const char* nom : {"mn_fichier_ouvrir", "mn_fichier_enreg", "mn_fichier_enregsous", "mn_attfich_ouvrir",
                             "mn_attfich_enreg", "mn_attfich_enregsous", "mn_fichier_quit"})
         QVERIFY2(b.ctrl<QAction>(nom)->isEnabled(), nom);
@@ -194,34 +193,10 @@ void TestMenu::entrees_et_touches() {
     QVERIFY(b.s().chemin_energie.empty() && b.s().chemin_attitude.empty());
     QCOMPARE(b.s().config_modifiee, int16_t{0});
 
-    // A key whose entry is disabled does nothing; an unknown key neither.
-    b.fen->Toolbar_ButtonClick("Toolbar_power", "sim_all");
+    // A key the toolbar does not hold does nothing.
     b.fen->Toolbar_ButtonClick("Toolbar_att", "quit");
     QCOMPARE(b.dlg.demandes.size(), 3);
     QVERIFY(b.dlg.questions.isEmpty());
-
-    // A disabled entry's keys are disabled with it, and come on when it is
-    // given a command: the first of these entries whose window is not built yet.
-    struct Cas {
-        const char *entree, *barre, *cle;
-    };
-    const Cas candidats[] = {{"mn_exp_att_data", "Toolbar_att", "expatt"},
-                             {"mn_sim_att_com", "Toolbar_att", "simulation"},
-                             {"mn_exp_pow_bat", "Toolbar_power", "exp_bat"},
-                             {"mn_exp_pow_data", "Toolbar_power", "exp_data"}};
-    const Cas* c = std::find_if(std::begin(candidats), std::end(candidats),
-                                [&](const Cas& k) { return !b.ctrl<QAction>(k.entree)->isEnabled(); });
-    if (c == std::end(candidats)) QSKIP("every window of these entries is built");
-    QVERIFY(!b.cle(c->barre, c->cle)->isEnabled());
-    const QString pourquoi = "Fenêtre non disponible dans cette version";
-    QCOMPARE(b.ctrl<QAction>(c->entree)->toolTip(), pourquoi);
-    int ouvertures = 0;
-    b.fen->branche(c->entree, [&] { ++ouvertures; });
-    QVERIFY(b.cle(c->barre, c->cle)->isEnabled());
-    QVERIFY(b.ctrl<QAction>(c->entree)->toolTip() != pourquoi);
-    b.cle(c->barre, c->cle)->trigger();
-    b.ctrl<QAction>(c->entree)->trigger();
-    QCOMPARE(ouvertures, 2);
 }
 
 void TestMenu::ouverture_recharge_les_fenetres() {

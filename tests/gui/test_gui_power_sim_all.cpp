@@ -69,7 +69,6 @@ private slots:
 void TestPowerSimAll::demarrage_refuse_a_la_date_des_cellules() {
     Banc b;
     b.ticks(1);
-    QCOMPARE(b.fen->windowTitle(), QStringLiteral("Simulation du sous-système complet"));
     b.etat.session.j_debut = b.etat.pwr.date_cell;  // equal: the test is strict
     b.clique("cmd_lance");
     QCOMPARE(b.fen->sim_state(), kestrel::SIM_ARRET);
