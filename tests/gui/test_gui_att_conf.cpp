@@ -108,6 +108,8 @@ void TestAttConf::dimensions_et_centre_de_masse() {
     QCOMPARE(b.texte("cmx"), "0.225");
     QCOMPARE(b.a().cm[0], 0.225);
     QCOMPARE(b.etat.session.config_modifiee, int16_t{1});
+    b.saisit("cmz", "-5");
+    QCOMPARE(b.texte("cmz"), "-0.225");
     // 100 in dimens1 shows 90; cmx may then go to ±45 and no further.
     b.saisit("dimens1", "100");
     QCOMPARE(b.texte("dimens1"), "90");
@@ -166,7 +168,7 @@ void TestAttConf::bornes_de_chaque_case() {
     QCOMPARE(b.a().I_corps(1, 2), 2.5);
     QCOMPARE(b.a().jets[1], 2.5);
     // Wheels and dampers have no limits: read and shown back.
-    for (const char* nom : {"txt_JR1", "txt_md2", "txt_ld3", "txt_c1", "txt_k2", "txt_OM3"}) {
+    for (const char* nom : {"txt_JR1", "txt_JR3", "txt_md2", "txt_ld3", "txt_c1", "txt_k2", "txt_OM3"}) {
         for (const char* v : {"-1000000", "0.001", "1234.5"}) {
             b.saisit(nom, v);
             QCOMPARE(b.texte(nom), v);

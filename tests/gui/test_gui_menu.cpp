@@ -193,6 +193,12 @@ void TestMenu::entrees_et_touches() {
     QVERIFY(b.s().chemin_energie.empty() && b.s().chemin_attitude.empty());
     QCOMPARE(b.s().config_modifiee, int16_t{0});
 
+    // The entries of the windows no other test opens through the menu.
+    for (const auto& [entree, fenetre] : {std::pair{"mn_exp_pow_data", "power_exp_data"}, {"mn_exp_att_data", "att_exp_data"},
+                                          {"mn_sim_att_com", "att_sim"}, {"mn_sim_pow_com", "power_sim_all"}}) {
+        b.ctrl<QAction>(entree)->trigger();
+        QVERIFY2(b.fen->findChild<QWidget*>(fenetre), entree);
+    }
     // A key the toolbar does not hold does nothing.
     b.fen->Toolbar_ButtonClick("Toolbar_att", "quit");
     QCOMPARE(b.dlg.demandes.size(), 3);

@@ -235,7 +235,8 @@ void TestPowerConf::catalogues() {
 
     // Lithium-Ion: curves and management fields filled, the curves locked.
     b.choisit("bat_cmb_type", 2);
-    for (const auto& [nom, texte] : {std::pair{"bat_txt_d100_3", "2.8"}, {"bat_txt_c10", "0.80"}, {"gst_txt_chvmax", "4"}})
+    for (const auto& [nom, texte] : {std::pair{"bat_txt_d100_3", "2.8"}, {"bat_txt_1_5", "0.4"}, {"bat_txt_c10", "0.80"},
+                                     {"gst_txt_chvmax", "4"}})
         QCOMPARE(b.texte(nom), QString::fromUtf8(texte));
     QVERIFY(!b.ctrl("bat_txt_d100_3")->isEnabled() && !b.ctrl("bat_txt_cmax")->isEnabled());
     QVERIFY(b.ctrl("bat_txt_c")->isEnabled());
