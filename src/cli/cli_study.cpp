@@ -108,7 +108,7 @@ int lance_generateur(const OptionsGenerateur& o) {
     // the window's captions, "Panneau 1 (°C)"; with --units in brackets like every CSV
     out << (o.unites ? "date [j],eclipse [-]" : "date (j),eclipse");
     for (std::size_t c = 0; c < t.colonnes(); ++c)
-        out << ',' << t.titres[c] << (o.unites ? " [" : " (") << t.unites[c] << (o.unites ? ']' : ')');
+        out << ',' << (o.unites ? colonne(t.titres[c], t.unites[c], true) : t.titres[c] + " (" + t.unites[c] + ')');
     out << '\n';
     for (std::size_t i = 0; i < t.lignes(); ++i) {
         out.nombre(r.dates[i]) << (r.eclipses[i] ? ",1" : ",0");
